@@ -1,0 +1,4 @@
+#include "interface/JeuPoker.h"
+
+void JeuPoker::Initialise() {}
+void JeuPoker::InitPremierTirage() {}

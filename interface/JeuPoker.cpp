@@ -1,0 +1,108 @@
+#include "interface/JeuPoker.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+
+#include "interface/bind.h"
+
+int VbKeyCode(const QKeyEvent* e);
+
+JeuPoker::JeuPoker(const QString& programDir) : programDir_(programDir) {
+  setObjectName("JeuPoker");
+  setWindowTitle("MONTALBERGUES");
+  setFixedSize(1024, 768);
+  setAutoFillBackground(true);
+  QPalette pal = palette();
+  pal.setColor(QPalette::Window, Qt::black);
+  setPalette(pal);
+  BuildControls();
+  BuildPictures();
+  WireEvents();
+  RegisterVariables();
+  // Keys reach the form first, then the control with the focus.
+  qApp->installEventFilter(this);
+}
+
+JeuPoker::~JeuPoker() { qApp->removeEventFilter(this); }
+
+bool JeuPoker::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::KeyPress) {
+    auto* w = qobject_cast<QWidget*>(watched);
+    if (w && w != this && isAncestorOf(w)) {
+      auto* k = static_cast<QKeyEvent*>(event);
+      int shift = 0;
+      if (k->modifiers() & Qt::ShiftModifier) shift |= 1;
+      if (k->modifiers() & Qt::ControlModifier) shift |= 2;
+      if (k->modifiers() & Qt::AltModifier) shift |= 4;
+      Form_KeyDown(VbKeyCode(k), shift);
+    }
+  }
+  return QWidget::eventFilter(watched, event);
+}
+
+void JeuPoker::WireEvents() {
+  Jouer->Click = [this] { Jouer_Click(); };
+  Jouer->MouseDown = [this](int b, int s, int x, int y) { Jouer_MouseDown(b, s, x, y); };
+  Jouer->MouseUp = [this](int b, int s, int x, int y) { Jouer_MouseUp(b, s, x, y); };
+  Tirage->KeyDown = [this](int k, int s) { Tirage_KeyDown(k, s); };
+  Tirage->KeyUp = [this](int k, int s) { Tirage_KeyUp(k, s); };
+  for (int i = 0; i <= 4; ++i) Deal(i).Click = [this, i] { Deal_Click(i); };
+  Plus->Click = [this] { Plus_Click(); };
+  Moins->Click = [this] { Moins_Click(); };
+  Plus->MouseMove = [this](int b, int s, int x, int y) { Plus_MouseMove(b, s, x, y); };
+  Moins->MouseMove = [this](int b, int s, int x, int y) { Moins_MouseMove(b, s, x, y); };
+  ParesseOui->Click = [this] { ParesseOui_Click(); };
+  ParesseNon->Click = [this] { ParesseNon_Click(); };
+  Double1X5->Click = [this] { Double1X5_Click(); };
+  Quitte1X5->Click = [this] { Quitte1X5_Click(); };
+  Fin->Click = [this] { Fin_Click(); };
+  for (int i = 0; i <= 1; ++i) SSLangue(i).Click = [this, i] { SSLangue_Click(i); };
+}
+
+const JeuPoker::Variable* JeuPoker::FindVariable(const QString& name) const {
+  auto it = variables_.find(name);
+  return it == variables_.end() ? nullptr : &it.value();
+}
+
+void JeuPoker::RegisterVariables() {
+  RegisterCoreVariables();
+  RegisterClassicVariables();
+  RegisterProbabilityVariables();
+  RegisterInterfaceVariables();
+}
+
+void JeuPoker::RegisterCoreVariables() {
+  Bind("CartesTirage", CartesTirage);
+  Bind("CartesSorties", CartesSorties);
+  Bind("NbTirées", NbTirées);
+  Bind("CarteClavier", CarteClavier);
+  Bind("MainTriée", MainTriée);
+  Bind("ValeursMain", ValeursMain);
+  Bind("BlocsCouleur", BlocsCouleur);
+  Bind("PositionsMain", PositionsMain);
+  Bind("CartesGardées", CartesGardées);
+  Bind("RangMain", RangMain);
+  Bind("GainMain", GainMain);
+  Bind("NbRois", NbRois);
+  Bind("NbAs", NbAs);
+  Bind("NbPaires", NbPaires);
+  Bind("Mise", Mise);
+  Bind("Capital", Capital);
+  Bind("TableGains", TableGains);
+  Bind("AffichageImmédiat", AffichageImmédiat);
+  Bind("IndiceDouble", IndiceDouble);
+  Bind("Niveau", Niveau);
+  Bind("GainTirage", GainTirage);
+  Bind("DoubleCarte1", DoubleCarte1);
+  Bind("DoubleCarte2", DoubleCarte2);
+  Bind("DoubleCarte3", DoubleCarte3);
+  Bind("NomsValeurs", NomsValeurs);
+  Bind("CarteChoisie", CarteChoisie);
+  Bind("DoubleEnCours", DoubleEnCours);
+  Bind("LignesJouées", LignesJouées);
+  Bind("IndexLigne", IndexLigne);
+  Bind("NbJokers", NbJokers);
+  Bind("TailleJeu", TailleJeu);
+  Bind("Langue", Langue);
+  Bind("Messages", Messages);
+}

@@ -1,0 +1,295 @@
+// The main form: every control, all game state and every routine of the game.
+//
+// Routines are member functions with no arguments that talk through the form's variables
+// and its controls, as an event-driven form does. Their bodies live in the subsystem
+// folders (core/, classic/, grid/, probability/, interface/, services/).
+#pragma once
+
+#include <QHash>
+#include <QString>
+#include <QStringList>
+#include <QWidget>
+#include <functional>
+#include <memory>
+#include <vector>
+
+#include "core/vb.h"
+#include "interface/controls.h"
+
+class JeuPoker : public QWidget {
+ public:
+  // `programDir` is the program's own directory (Ini.dat, pieces, pages).
+  explicit JeuPoker(const QString& programDir);
+  ~JeuPoker() override;
+
+  const QString& ProgramDir() const { return programDir_; }
+
+  // ---- Controls -------------------------------------------------------------------------
+  Control* Jeu = nullptr;
+  Control* SSCartes = nullptr;
+  Control* SSCartes2 = nullptr;
+  Control* SSAides = nullptr;
+  Control* Pub0Pic = nullptr;
+  Control* Pub1Pic = nullptr;
+  Control* Pub0Web = nullptr;
+  Control* Pub1Web = nullptr;
+  TimerControl* TitreTimer = nullptr;
+  TimerControl* AutoPlayTimer = nullptr;
+  TimerControl* NonConnectéTimer = nullptr;
+  TimerControl* MusicTimer = nullptr;
+
+  Control* JeuTitre = nullptr;
+  ControlArray<Control> TitreImage;  // 0 on JeuTitre, 1..2 stored
+  Control* SSNJokerSélection = nullptr;
+  ControlArray<Control> NJokerSélection;
+  Control* SSMenu = nullptr;
+  ControlArray<Control> SSMusic;  // 0 on SSMenu, 1..2 stored
+  Control* SSRègles = nullptr;
+  ControlArray<Control> SSLangue;
+  Control* ParesseNon = nullptr;
+  Control* ParesseOui = nullptr;
+  ControlArray<Control> SSVitesse;
+  Control* AutoPlay = nullptr;
+  Control* AutoPlayStop = nullptr;
+  Control* Fin = nullptr;
+  Control* SSRecommence = nullptr;
+  ControlArray<Control> PSSlangue;
+  Control* PParesseNon = nullptr;
+  Control* PParesseOui = nullptr;
+  ControlArray<Control> PSSVitesse;
+
+  Control* SSGains = nullptr;
+  ControlArray<Control> Maintitre;
+  ControlArray<Control> MainLabel;
+  ControlArray<Control> Pourcentages;
+  ControlArray<Control> PourcDéc;
+  ControlArray<Control> Fractions;
+  ControlArray<Control> Fréquence;
+  Control* MainsPayantes = nullptr;
+  Control* Rapport = nullptr;
+  Control* PourCentLabel = nullptr;
+  Control* UnSur = nullptr;
+  Control* FréquenceTitre = nullptr;
+
+  Control* SSMises = nullptr;
+  Control* ImageCrédit = nullptr;
+  Control* ImageGains = nullptr;
+  Control* ImageMises = nullptr;
+  Control* ImageUnàDouze = nullptr;
+  Control* CréditImage = nullptr;
+  ControlArray<Control> GainsImage;  // 0 on SSMises, 1..2 stored
+  ControlArray<Control> MisesImage;  // 0 on SSMises, 1..2 stored
+  Control* UnàDouze = nullptr;
+  ControlArray<Control> CapImage;
+  ControlArray<Control> GainImage;
+  ControlArray<Control> MiseImage;
+  ControlArray<Control> UnàDouzeImage;
+  Control* Gains = nullptr;
+  Control* Mises = nullptr;
+  Control* UnADouze = nullptr;
+  Control* Moins = nullptr;
+  Control* Plus = nullptr;
+  Control* Moins5 = nullptr;
+  Control* Plus5 = nullptr;
+
+  Control* SSTirage = nullptr;
+  Control* Jouer = nullptr;
+  ControlArray<Control> JouerImage;  // 0 on Jouer, 1..4 stored
+  Control* Tirage = nullptr;
+
+  Control* SSMenuJeux = nullptr;
+  Control* SSJeuSimple = nullptr;
+  Control* SSJeu3D = nullptr;
+  Control* JeuSimple = nullptr;
+  Control* Jeu3D = nullptr;
+  Control* JeuSimpleLabel = nullptr;
+  Control* Jeu3DLabel = nullptr;
+
+  Control* SSMessages = nullptr;
+  ControlArray<Control> CartesMains;
+
+  Control* SSAireJeu = nullptr;
+  ControlArray<Control> Deal;
+  ControlArray<Control> Jouez;
+  ControlArray<Control> ImageConseils;
+  Control* Doubler = nullptr;
+  Control* Quitte1X5 = nullptr;
+  Control* Double1X5 = nullptr;
+
+  Control* SSAireJeu5 = nullptr;
+  ControlArray<Control> Deal2;
+  Control* Jouez5 = nullptr;
+  Control* SSConseils5 = nullptr;
+  Control* Conseils5 = nullptr;
+  Control* AnnuleConseils5 = nullptr;
+  Control* Image6 = nullptr;
+  Control* Doubler5 = nullptr;
+  Control* Quitte5X5 = nullptr;
+  Control* Double5X5 = nullptr;
+  ControlArray<Control> Mains5;
+  ControlArray<Control> Gains5;
+  ControlArray<Control> UnADouzeTémoin;
+  ControlArray<Control> UnADouzeLine;
+
+  Control* SSAlertes = nullptr;
+
+  Control* NonConnectéPic = nullptr;
+  Control* LogoFondPic = nullptr;
+  Control* LogoWeb = nullptr;
+  Control* NonConnectéCmd = nullptr;
+  Control* NonConnectéLbl = nullptr;
+
+  Control* AidesOk = nullptr;
+  ControlArray<Control> Aides;
+
+  // Picture stores (off screen).
+  ControlArray<Control> Cartes;          // 0..54, 88x133 px; 54 is the back
+  ControlArray<Control> Cartes2;         // 0..53, 65x87 px
+  ControlArray<Control> ChiffresModèle;  // 0..29, 16x22 px: red, blue, grey
+  Control* FileMid = nullptr;
+  QStringList FileMidItems;  // the *.mid pieces of the program's folder
+
+  // Looks a control up by name and index (-1 for a single control); nullptr when absent.
+  Control* FindControl(const QString& name, int index) const;
+  TimerControl* FindTimer(const QString& name) const;
+  // Every control name with its index range (low, high; -1, -1 for a single control).
+  struct NameEntry {
+    QString name;
+    int low;
+    int high;
+  };
+  std::vector<NameEntry> ControlNames() const;
+
+  // ---- Game state (core) ----------------------------------------------------------------
+  vb::Array<Byte, 0, 50> CartesTirage;
+  vb::Array<Integer, 0, 50> CartesSorties;
+  Byte NbTirées = 0;
+  Byte CarteClavier = 0;
+  vb::Array<Byte, 0, 4> MainTriée;
+  vb::Array<Byte, 0, 4> ValeursMain;
+  vb::Array<Byte, 0, 4> BlocsCouleur;
+  vb::Array<Byte, 0, 4> PositionsMain;
+  vb::Array<bool, 0, 4> CartesGardées;
+  Byte RangMain = 0;
+  Long GainMain = 0;
+  Byte NbRois = 0;
+  Byte NbAs = 0;
+  Byte NbPaires = 0;
+  Integer Mise = 1;
+  Long Capital = 200;
+  vb::Array<Long, 0, 9> TableGains;
+  bool AffichageImmédiat = true;
+  Integer IndiceDouble = 0;
+  Byte Niveau = 1;
+  Long GainTirage = 0;
+  Byte DoubleCarte1 = 0;
+  Byte DoubleCarte2 = 0;
+  Byte DoubleCarte3 = 0;
+  vb::Array<QString, 0, 51> NomsValeurs;
+  Byte CarteChoisie = 0;
+  bool DoubleEnCours = false;
+  vb::Array<bool, 0, 24> LignesJouées;
+  vb::Array<Byte, 0, 4> IndexLigne;
+  Byte NbJokers = 2;
+  Long TailleJeu = 54;
+  Byte Langue = 0;
+  vb::Array<QString, 0, 201> Messages;
+
+  // Core routines.
+  void Initialise();
+  void InitPremierTirage();
+  void Résultat();
+
+  // ---- Classic game ---------------------------------------------------------------------
+  void Jouer_Click();
+  void Jouer_MouseDown(int button, int shift, int x, int y);
+  void Jouer_MouseUp(int button, int shift, int x, int y);
+  void Tirage_KeyDown(int keyCode, int shift);
+  void Tirage_KeyUp(int keyCode, int shift);
+  void Tirage1();
+  void InitTirage();
+  void Deal_Click(int index);
+  void Form_KeyDown(int keyCode, int shift);
+  void Form_Click();
+  void GardeCartes();
+  void ParesseOui_Click();
+  void ParesseNon_Click();
+  void Double1X5_Click();
+  void Quitte1X5_Click();
+  void ChoixCarteQouD();
+
+  // ---- 2D game ----------------------------------------------------------------------------
+  void Tirage5();
+
+  // ---- Probability engine -----------------------------------------------------------------
+  void Probabilités();
+  void AfficheFréquence();
+
+  // ---- Interface ----------------------------------------------------------------------------
+  void AfficheCapital();
+  void AfficheGain();
+  void AfficheGain5();
+  void AfficheMise();
+  void AfficheUnàDouze();
+  void Plus_Click();
+  void Moins_Click();
+  void Plus_MouseMove(int button, int shift, int x, int y);
+  void Moins_MouseMove(int button, int shift, int x, int y);
+  void Pointeur10();
+  void Pointeur12();
+  void ClignoteAlertes();
+  void ModifieLangue();
+
+  // ---- Services ---------------------------------------------------------------------------
+  void Form_Load();
+  void Form_QueryUnload();
+  void Fin_Click();
+  void SSLangue_Click(int index);
+
+  // What ends the program (Fin_Click); the game quits the application, the driver reports.
+  std::function<void()> EndProgram;
+
+  // ---- Form-level variables by name, for talvero-drive and tests --------------------------
+  struct Variable {
+    int low = -1, high = -1;  // -1, -1 for a scalar
+    std::function<QString(int)> get;
+    std::function<bool(int, const QString&)> set;
+  };
+  const Variable* FindVariable(const QString& name) const;
+
+ protected:
+  void closeEvent(QCloseEvent* e) override;
+  void mouseReleaseEvent(QMouseEvent* e) override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  // Builds every control in its place (the inventory) and wires the events.
+  void BuildControls();
+  void WireEvents();
+  // Renders the stored pictures (card faces, digits, titles) into the picture stores.
+  void BuildPictures();
+  Picture StorePicture(const QString& name, const QPixmap& pixmap);
+
+  Control* Make(ControlKind kind, const QString& name, Control* parent, int left, int top, int width, int height,
+                int index = -1);
+  void Register(Control* c);
+  TimerControl* MakeTimer(const QString& name, int interval, bool enabled);
+
+  // Variable registration, one function per subsystem.
+  void RegisterVariables();
+  void RegisterCoreVariables();
+  void RegisterClassicVariables();
+  void RegisterProbabilityVariables();
+  void RegisterInterfaceVariables();
+  template <class T>
+  void Bind(const QString& name, T& scalar);
+  template <class T, int Lo, int Hi>
+  void Bind(const QString& name, vb::Array<T, Lo, Hi>& array);
+
+  QString programDir_;
+  QHash<QString, std::vector<Control*>> controlsByName_;  // index order; singles at [0]
+  QHash<QString, int> arrayLow_;
+  QHash<QString, TimerControl*> timers_;
+  std::vector<std::unique_ptr<StoredPicture>> pictures_;
+  QHash<QString, Variable> variables_;
+};

@@ -1,0 +1,3 @@
+#include "interface/JeuPoker.h"
+
+void JeuPoker::ClignoteAlertes() {}

@@ -1,0 +1,157 @@
+// The form's control classes over Qt widgets.
+//
+// Every control carries the properties the game's routines read and write: Caption,
+// Visible, Left/Top/Width/Height in twips (15 to the pixel), Picture (a handle: pictures
+// are compared by identity), ForeColor/BackColor as 0xBBGGRR, MousePointer, BevelWidth,
+// Enabled and Alignment. Events are plain callbacks set by the form.
+#pragma once
+
+#include <QColor>
+#include <QPixmap>
+#include <QString>
+#include <QTimer>
+#include <QWidget>
+#include <functional>
+#include <vector>
+
+#include "core/vb.h"
+
+constexpr int kTwipsPerPixel = 15;
+
+// A picture with identity. Controls hold a pointer to it; two controls show "the same
+// picture" exactly when they hold the same pointer.
+struct StoredPicture {
+  QString name;
+  QPixmap pixmap;
+};
+using Picture = const StoredPicture*;
+
+// 0xBBGGRR <-> QColor.
+QColor VbColor(Long bgr);
+
+enum class ControlKind { Panel, Button, Label, Image, PictureBox, Line };
+
+class Control : public QWidget {
+ public:
+  Control(ControlKind kind, const QString& name, int index, QWidget* parent);
+
+  ControlKind Kind() const { return kind_; }
+  const QString& Name() const { return name_; }
+  int Index() const { return index_; }  // -1 outside a control array
+  QString FullName() const;
+
+  QString Caption() const { return caption_; }
+  void SetCaption(const QString& text);
+  bool Visible() const { return visible_; }
+  void SetVisible(bool v);
+  int Left() const { return x() * kTwipsPerPixel; }
+  int Top() const { return y() * kTwipsPerPixel; }
+  int Width() const { return width() * kTwipsPerPixel; }
+  int Height() const { return height() * kTwipsPerPixel; }
+  void SetLeft(int twips);
+  void SetTop(int twips);
+  void SetWidth(int twips);
+  void SetHeight(int twips);
+  void Move(int left, int top, int w, int h);
+  Long ForeColor() const { return foreColor_; }
+  Long BackColor() const { return backColor_; }
+  void SetForeColor(Long bgr);
+  void SetBackColor(Long bgr);
+  int MousePointer() const { return mousePointer_; }
+  void SetMousePointer(int pointer);
+  int BevelWidth() const { return bevelWidth_; }
+  void SetBevelWidth(int width);
+  bool Enabled() const { return isEnabled(); }
+  void SetEnabled(bool e) { setEnabled(e); }
+  Picture GetPicture() const { return picture_; }
+  void SetPicture(Picture p);
+  int Alignment() const { return alignment_; }  // 0 left, 1 right, 2 centre
+  void SetAlignment(int a);
+  // A button's picture is drawn with its caption, a panel's caption is centred.
+  void SetFontSpec(const QString& family, double points, bool bold = false);
+  bool Transparent() const { return transparent_; }
+  void SetTransparent(bool t);  // a label that shows what lies beneath
+  void SetLine(int x1, int y1, int x2, int y2);  // a drawn line, in parent twips
+  void SetFocus();
+
+  // Events. Button: 1 left, 2 right; shift as VB flags; x, y in twips.
+  std::function<void()> Click;
+  std::function<void(int button, int shift, int x, int y)> MouseDown;
+  std::function<void(int button, int shift, int x, int y)> MouseUp;
+  std::function<void(int button, int shift, int x, int y)> MouseMove;
+  std::function<void(int keyCode, int shift)> KeyDown;
+  std::function<void(int keyCode, int shift)> KeyUp;
+
+  // Pointer 99 shows this picture as the cursor.
+  static void SetCardPointer(const QPixmap& pixmap);
+
+ protected:
+  void paintEvent(QPaintEvent*) override;
+  void mousePressEvent(QMouseEvent*) override;
+  void mouseReleaseEvent(QMouseEvent*) override;
+  void mouseMoveEvent(QMouseEvent*) override;
+  void keyPressEvent(QKeyEvent*) override;
+  void keyReleaseEvent(QKeyEvent*) override;
+
+ private:
+  void PaintBevel(QPainter& p, bool pressed) const;
+  void ApplyCursor();
+
+  ControlKind kind_;
+  QString name_;
+  int index_;
+  QString caption_;
+  bool visible_ = true;
+  Long foreColor_ = 0;
+  Long backColor_ = 0xC0C0C0;
+  int mousePointer_ = 0;
+  int bevelWidth_ = 0;
+  Picture picture_ = nullptr;
+  int alignment_ = 0;
+  bool transparent_ = false;
+  bool pressed_ = false;
+  QPoint lineFrom_, lineTo_;
+};
+
+// A timer control: Interval in ms, Enabled, and a Timer event.
+class TimerControl : public QObject {
+ public:
+  TimerControl(const QString& name, int interval, bool enabled, QObject* parent);
+  const QString& Name() const { return name_; }
+  int Interval() const { return interval_; }
+  void SetInterval(int ms);
+  bool Enabled() const { return enabled_; }
+  void SetEnabled(bool e);
+  void Fire();  // the Timer event once
+  std::function<void()> Tick;
+  // Off in talvero-drive and tests: timers fire only when asked to.
+  static void SetAutomatic(bool on);
+  static bool Automatic();
+
+ private:
+  void Rearm();
+  QString name_;
+  int interval_;
+  bool enabled_;
+  QTimer timer_;
+};
+
+// A control array with VB bounds; an index outside them is run-time error 9.
+template <class T>
+class ControlArray {
+ public:
+  ControlArray() = default;
+  ControlArray(int low, int high) : low_(low), items_(static_cast<std::size_t>(high - low + 1), nullptr) {}
+  T& operator()(long long i) const {
+    if (i < low_ || i > High()) vb::RuntimeError(vb::SubscriptOutOfRange);
+    return *items_[static_cast<std::size_t>(i - low_)];
+  }
+  void Set(int i, T* c) { items_.at(static_cast<std::size_t>(i - low_)) = c; }
+  int Low() const { return low_; }
+  int High() const { return low_ + static_cast<int>(items_.size()) - 1; }
+  bool Has(long long i) const { return i >= low_ && i <= High() && items_[static_cast<std::size_t>(i - low_)]; }
+
+ private:
+  int low_ = 0;
+  std::vector<T*> items_;
+};

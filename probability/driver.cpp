@@ -1,0 +1,5 @@
+#include "interface/JeuPoker.h"
+
+void JeuPoker::Probabilités() {}
+void JeuPoker::AfficheFréquence() {}
+void JeuPoker::RegisterProbabilityVariables() {}

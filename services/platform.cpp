@@ -1,0 +1,152 @@
+#include "services/platform.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QThread>
+#include <QTime>
+
+namespace {
+Platform* current = nullptr;
+}
+
+Platform& Sys() {
+  if (!current) {
+    static RealPlatform fallback;
+    current = &fallback;
+  }
+  return *current;
+}
+
+void SetPlatform(Platform* platform) { current = platform; }
+
+RealPlatform::RealPlatform() : rng_(std::random_device{}()) {}
+RealPlatform::~RealPlatform() = default;
+
+void RealPlatform::DoEvents() { QCoreApplication::processEvents(QEventLoop::AllEvents); }
+
+void RealPlatform::Sleep(int ms) {
+  if (ms > 0) QThread::msleep(static_cast<unsigned long>(ms));
+}
+
+double RealPlatform::Timer() { return QTime::currentTime().msecsSinceStartOfDay() / 1000.0; }
+
+void RealPlatform::Randomize(double seed) {
+  // The seed is mixed into the running state, so two seedings within the same clock tick
+  // still give different numbers.
+  std::seed_seq seq{static_cast<unsigned>(rng_()), static_cast<unsigned>(seed * 1000.0)};
+  rng_.seed(seq);
+}
+
+int RealPlatform::RandomInt(int n) {
+  if (n <= 0) return 0;
+  std::uniform_real_distribution<double> unit(0.0, 1.0);
+  const int v = static_cast<int>(unit(rng_) * n);
+  return v < n ? v : n - 1;
+}
+
+bool RealPlatform::DeleteFile(const QString& path) {
+  QFileInfo info(path);
+  if (!info.exists() || info.isDir()) return false;
+  return QFile::remove(path);
+}
+
+bool RealPlatform::ChangeDirectory(const QString& path) { return QDir::setCurrent(path); }
+
+bool RealPlatform::ReadRecordByte(const QString& path, std::optional<std::uint8_t>& byte) {
+  byte.reset();
+  QFile f(path);
+  // A file of records is opened for reading and writing; a missing one is created empty.
+  if (!f.open(QIODevice::ReadWrite)) {
+    if (!f.open(QIODevice::ReadOnly)) return false;
+  }
+  char c = 0;
+  if (f.read(&c, 1) == 1) byte = static_cast<std::uint8_t>(c);
+  return true;
+}
+
+bool RealPlatform::WriteRecordByte(const QString& path, std::uint8_t byte) {
+  QFile f(path);
+  if (!f.open(QIODevice::ReadWrite)) return false;
+  const char c = static_cast<char>(byte);
+  if (!f.seek(0) || f.write(&c, 1) != 1) return false;
+  return f.flush();
+}
+
+QString RealPlatform::SendMciCommand(const QString&) { return {}; }
+
+DisplayMode RealPlatform::CurrentDisplayMode() {
+  DisplayMode m;
+  if (auto* s = QGuiApplication::primaryScreen()) {
+    m.width = s->size().width();
+    m.height = s->size().height();
+    m.bitsPerPixel = s->depth();
+    m.frequency = static_cast<int>(s->refreshRate());
+  }
+  return m;
+}
+
+std::vector<DisplayMode> RealPlatform::DisplayModes() { return {CurrentDisplayMode()}; }
+bool RealPlatform::ChangeDisplayMode(const DisplayMode&) { return false; }
+void RealPlatform::RestoreDisplayMode() {}
+bool RealPlatform::Connected() { return true; }
+
+// ---------------------------------------------------------------------------------------
+
+void ScriptedPlatform::DoEvents() {
+  ++yields;
+  if (processQtEvents) QCoreApplication::processEvents(QEventLoop::AllEvents);
+  auto range = yieldActions_.equal_range(yields);
+  std::vector<std::function<void()>> due;
+  for (auto it = range.first; it != range.second; ++it) due.push_back(it->second);
+  yieldActions_.erase(range.first, range.second);
+  for (auto& action : due) action();
+}
+
+void ScriptedPlatform::Sleep(int ms) {
+  if (ms > 0) sleptMs += ms;
+}
+
+void ScriptedPlatform::Randomize(double seed) {
+  seeds.push_back(seed);
+  RealPlatform::Randomize(seed);
+}
+
+int ScriptedPlatform::RandomInt(int n) {
+  if (!queuedDraws.empty()) {
+    const int v = queuedDraws.front();
+    queuedDraws.pop_front();
+    if (v >= 0 && v < n) return v;
+    drawErrors.push_back(QStringLiteral("draw %1 is not below %2; drawn at random").arg(v).arg(n));
+  }
+  return RealPlatform::RandomInt(n);
+}
+
+QString ScriptedPlatform::SendMciCommand(const QString& command) {
+  mciCommands.push_back(command);
+  for (const auto& [prefix, answer] : mciAnswers)
+    if (command.startsWith(prefix)) return answer;
+  return {};
+}
+
+bool ScriptedPlatform::ChangeDisplayMode(const DisplayMode& mode) {
+  displayChanges.push_back(mode);
+  for (const auto& m : modes)
+    if (m.width == mode.width && m.height == mode.height) {
+      display = mode;
+      return true;
+    }
+  return false;
+}
+
+void ScriptedPlatform::RestoreDisplayMode() { ++restores; }
+
+void ScriptedPlatform::QueueDraws(const std::vector<int>& draws) {
+  queuedDraws.insert(queuedDraws.end(), draws.begin(), draws.end());
+}
+
+void ScriptedPlatform::AtYield(int n, std::function<void()> action) {
+  yieldActions_.emplace(yields + n, std::move(action));
+}

@@ -1,0 +1,129 @@
+// The platform seam: every call that leaves the program goes through here.
+//
+// The game runs on RealPlatform. Tests and talvero-drive run on ScriptedPlatform, which
+// queues random draws, returns from Sleep at once while adding up what was asked, can run
+// an action at the n-th yield, and reports a 1024x768 display and a live connection.
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <deque>
+#include <functional>
+#include <map>
+#include <optional>
+#include <random>
+#include <vector>
+
+struct DisplayMode {
+  int width = 0;
+  int height = 0;
+  int bitsPerPixel = 32;
+  int frequency = 60;
+};
+
+class Platform {
+ public:
+  virtual ~Platform() = default;
+
+  // Yield to the event loop: pending events (clicks, keys, paints) run now.
+  virtual void DoEvents() = 0;
+  virtual void Sleep(int ms) = 0;
+
+  // Seconds since midnight, with fractions, as the game's clock.
+  virtual double Timer() = 0;
+  // Seeds the random generator from a number (the game passes the clock).
+  virtual void Randomize(double seed) = 0;
+  // Int(Rnd x n): a whole number in 0..n-1.
+  virtual int RandomInt(int n) = 0;
+
+  // Files. Paths are absolute or relative to the current directory.
+  virtual bool DeleteFile(const QString& path) = 0;
+  virtual bool ChangeDirectory(const QString& path) = 0;
+  // Opens the file of records (creating it empty when missing) and reads record 1.
+  // Returns false when the file cannot be opened; `byte` is empty when there is none.
+  virtual bool ReadRecordByte(const QString& path, std::optional<std::uint8_t>& byte) = 0;
+  // Opens the file of records and writes record 1. False when it cannot be written.
+  virtual bool WriteRecordByte(const QString& path, std::uint8_t byte) = 0;
+
+  // The multimedia command interface (MIDI playback by command text).
+  virtual QString SendMciCommand(const QString& command) = 0;
+
+  // Display mode.
+  virtual DisplayMode CurrentDisplayMode() = 0;
+  virtual std::vector<DisplayMode> DisplayModes() = 0;
+  virtual bool ChangeDisplayMode(const DisplayMode& mode) = 0;
+  virtual void RestoreDisplayMode() = 0;
+
+  // Whether the machine has a connection to the internet.
+  virtual bool Connected() = 0;
+};
+
+// The real machine: Qt's event loop, the system clock, the file system, FluidSynth, XRandR.
+class RealPlatform : public Platform {
+ public:
+  RealPlatform();
+  ~RealPlatform() override;
+  void DoEvents() override;
+  void Sleep(int ms) override;
+  double Timer() override;
+  void Randomize(double seed) override;
+  int RandomInt(int n) override;
+  bool DeleteFile(const QString& path) override;
+  bool ChangeDirectory(const QString& path) override;
+  bool ReadRecordByte(const QString& path, std::optional<std::uint8_t>& byte) override;
+  bool WriteRecordByte(const QString& path, std::uint8_t byte) override;
+  QString SendMciCommand(const QString& command) override;
+  DisplayMode CurrentDisplayMode() override;
+  std::vector<DisplayMode> DisplayModes() override;
+  bool ChangeDisplayMode(const DisplayMode& mode) override;
+  void RestoreDisplayMode() override;
+  bool Connected() override;
+
+ private:
+  std::mt19937 rng_;
+};
+
+// The scripted machine of tests and talvero-drive. Files are real (in the directory the
+// test gives); time, randomness, sound, display and network are scripted.
+class ScriptedPlatform : public RealPlatform {
+ public:
+  void DoEvents() override;
+  void Sleep(int ms) override;
+  double Timer() override { return clock; }
+  void Randomize(double seed) override;
+  int RandomInt(int n) override;
+  QString SendMciCommand(const QString& command) override;
+  DisplayMode CurrentDisplayMode() override { return display; }
+  std::vector<DisplayMode> DisplayModes() override { return modes; }
+  bool ChangeDisplayMode(const DisplayMode& mode) override;
+  void RestoreDisplayMode() override;
+  bool Connected() override { return connected; }
+
+  // Queues draws: each later RandomInt(n) takes the next one.
+  void QueueDraws(const std::vector<int>& draws);
+  // Runs `action` at the n-th yield from now (1 = the next one).
+  void AtYield(int n, std::function<void()> action);
+
+  std::deque<int> queuedDraws;
+  // Draws that were queued but not below n: reported, and drawn at random instead.
+  std::vector<QString> drawErrors;
+  long long sleptMs = 0;
+  long long yields = 0;
+  double clock = 43200.0;
+  std::vector<double> seeds;
+  std::vector<QString> mciCommands;
+  std::map<QString, QString> mciAnswers;  // command prefix -> answer
+  DisplayMode display{1024, 768, 32, 60};
+  std::vector<DisplayMode> modes{{800, 600, 32, 60}, {1024, 768, 32, 60}};
+  std::vector<DisplayMode> displayChanges;
+  int restores = 0;
+  bool connected = true;
+  bool processQtEvents = true;
+
+ private:
+  std::multimap<long long, std::function<void()>> yieldActions_;
+};
+
+// The platform in force for the whole program.
+Platform& Sys();
+void SetPlatform(Platform* platform);

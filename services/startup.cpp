@@ -1,0 +1,86 @@
+// Start-up, the settings file and the end of the program.
+#include <QApplication>
+#include <QDir>
+
+#include "interface/JeuPoker.h"
+#include "services/platform.h"
+
+namespace {
+// The leftover picture of card i: the last two characters of the number's text with its
+// sign place, then ".bmp": " 1.bmp" .. " 9.bmp", "10.bmp" .. "54.bmp".
+QString LeftoverPictureName(int i) {
+  const QString text = QStringLiteral(" %1").arg(i + 1);
+  return text.right(2) + QStringLiteral(".bmp");
+}
+}  // namespace
+
+void JeuPoker::Form_Load() {
+  // 1. Display mode: the screen is checked and changed when below 768 lines (display issue).
+  // 2. Form size and the web panels' places.
+  resize(15360 / kTwipsPerPixel, 11520 / kTwipsPerPixel);
+  Pub0Pic->SetTop(8700);
+  Pub1Pic->SetLeft(11940);
+  // 3. The web panels navigate (web panel issue).
+  // 4. The no-connection notice is centred on the form.
+  NonConnectéPic->SetLeft((width() * kTwipsPerPixel - NonConnectéPic->Width()) / 2);
+  NonConnectéPic->SetTop((height() * kTwipsPerPixel - NonConnectéPic->Height()) / 2);
+
+  // 5. From here on a failing statement is skipped and the next one runs.
+  // 6. Leftover card pictures in the start directory.
+  for (int i = 0; i <= 53; ++i) vb::SkipOnError([&] { Sys().DeleteFile(LeftoverPictureName(i)); });
+  // 7. The rules page is centred at (6000, 4500).
+  vb::SkipOnError([&] {
+    SSAides->SetTop(4500 - SSAides->Height() / 2);
+    SSAides->SetLeft(6000 - SSAides->Width() / 2);
+  });
+  // 8. The program's own directory.
+  vb::SkipOnError([&] {
+    if (!Sys().ChangeDirectory(programDir_)) vb::RuntimeError(76);
+  });
+  // 9. The language byte.
+  vb::SkipOnError([&] {
+    std::optional<std::uint8_t> byte;
+    if (!Sys().ReadRecordByte(QStringLiteral("Ini.dat"), byte)) vb::RuntimeError(vb::PathFileAccess);
+    if (byte) Langue = *byte;
+  });
+  vb::SkipOnError([&] {
+    if (Langue == 2 || Langue == 3) ModifieLangue();
+  });
+  // 10. All cards start face down.
+  vb::SkipOnError([&] {
+    for (int i = 0; i <= 24; ++i) Deal2(i).SetPicture(Cartes(54).GetPicture());
+    for (int i = 0; i <= 4; ++i) Deal(i).SetPicture(Cartes(54).GetPicture());
+  });
+  // 11.
+  AffichageImmédiat = true;
+  // 12. The hint table (language issue).
+  // 13. The deck and a new game.
+  vb::SkipOnError([&] {
+    NbJokers = 2;
+    Initialise();
+    TailleJeu = NbJokers + 52;
+  });
+  // 14. Show the form.
+  vb::SkipOnError([&] { show(); });
+  // 15. The statistics tables and the panel at rest (statistics panel).
+  // 16. The music (music issue).
+  vb::SkipOnError([&] { Tirage->SetFocus(); });
+}
+
+void JeuPoker::SSLangue_Click(int index) {
+  if (index < 2) Tirage->SetFocus();
+  Langue = vb::CByte(index);
+  ModifieLangue();
+  if (index == 0) Langue = 2;
+  if (index == 1) Langue = 3;
+  if (!Sys().WriteRecordByte(QDir(programDir_).filePath(QStringLiteral("Ini.dat")), Langue))
+    vb::RuntimeError(vb::PathFileAccess);
+}
+
+void JeuPoker::Form_QueryUnload() { Fin_Click(); }
+
+void JeuPoker::Fin_Click() {
+  Sys().SendMciCommand(QStringLiteral("close sequence"));
+  Sys().RestoreDisplayMode();
+  if (EndProgram) EndProgram();
+}

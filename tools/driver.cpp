@@ -1,0 +1,260 @@
+#include "tools/driver.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QRegularExpression>
+
+#include "interface/JeuPoker.h"
+#include "services/platform.h"
+
+namespace {
+struct Target {
+  QString name;
+  int index = -1;
+  QString prop;
+  bool ok = false;
+};
+
+// NAME, NAME(i), and with a property NAME.PROP or NAME(i).PROP.
+Target ParseTarget(const QString& text, bool withProperty) {
+  static const QRegularExpression re(QStringLiteral(R"(^([^\s().]+)(?:\((-?\d+)\))?(?:\.(\w+))?$)"));
+  Target t;
+  const auto m = re.match(text);
+  if (!m.hasMatch()) return t;
+  t.name = m.captured(1);
+  t.index = m.captured(2).isEmpty() ? -1 : m.captured(2).toInt();
+  t.prop = m.captured(3);
+  t.ok = withProperty ? !t.prop.isEmpty() : t.prop.isEmpty();
+  return t;
+}
+
+QString TargetText(const Target& t) { return t.index < 0 ? t.name : QStringLiteral("%1(%2)").arg(t.name).arg(t.index); }
+
+QString Bool(bool b) { return b ? QStringLiteral("-1") : QStringLiteral("0"); }
+
+QString Escape(const QString& s) {
+  QString out;
+  for (QChar c : s) {
+    if (c == '\\')
+      out += "\\\\";
+    else if (c == '\r')
+      out += "\\r";
+    else if (c == '\n')
+      out += "\\n";
+    else
+      out += c;
+  }
+  return out;
+}
+
+// Key codes of the game to Qt keys: 32 Space, 96..105 the keypad digits.
+QKeyEvent MakeKey(QEvent::Type type, int code) {
+  int key = code;
+  Qt::KeyboardModifiers mods = Qt::NoModifier;
+  QString text;
+  if (code >= 96 && code <= 105) {
+    key = Qt::Key_0 + (code - 96);
+    mods = Qt::KeypadModifier;
+    text = QString::number(code - 96);
+  } else if (code == 32) {
+    key = Qt::Key_Space;
+    text = " ";
+  } else if (code == 13) {
+    key = Qt::Key_Return;
+  } else if (code == 27) {
+    key = Qt::Key_Escape;
+  } else if (code >= 0x20 && code <= 0x7E) {
+    text = QChar(code);
+  }
+  return QKeyEvent(type, key, mods, text);
+}
+}  // namespace
+
+Driver::Driver(JeuPoker& form, ScriptedPlatform& platform, std::function<void(const QString&)> out)
+    : form_(form), platform_(platform), out_(std::move(out)) {}
+
+void Driver::Error(const QString& reason) { out_(QStringLiteral("error: ") + reason); }
+
+void Driver::FlushDrawErrors() {
+  for (const auto& e : platform_.drawErrors) Error(e);
+  platform_.drawErrors.clear();
+}
+
+void Driver::Execute(const QString& rawLine) {
+  const QString line = rawLine.trimmed();
+  if (line.isEmpty() || line.startsWith('#')) return;
+  const int space = line.indexOf(' ');
+  const QString cmd = space < 0 ? line : line.left(space);
+  const QString rest = space < 0 ? QString() : line.mid(space + 1).trimmed();
+
+  if (cmd == "click") {
+    Click(rest);
+  } else if (cmd == "move") {
+    Move(rest);
+  } else if (cmd == "key") {
+    Key(rest);
+  } else if (cmd == "tick") {
+    TimerControl* t = form_.FindTimer(rest);
+    if (!t)
+      Error(QStringLiteral("no timer %1").arg(rest));
+    else
+      t->Fire();
+  } else if (cmd == "draw") {
+    std::vector<int> draws;
+    for (const auto& part : rest.split(' ', Qt::SkipEmptyParts)) {
+      bool ok = false;
+      const int v = part.toInt(&ok);
+      if (!ok) return Error(QStringLiteral("draw takes whole numbers, not %1").arg(part));
+      draws.push_back(v);
+    }
+    platform_.QueueDraws(draws);
+  } else if (cmd == "get") {
+    Get(rest);
+  } else if (cmd == "var") {
+    Var(rest, false, {});
+  } else if (cmd == "set") {
+    const int sp = rest.indexOf(' ');
+    if (sp < 0) return Error(QStringLiteral("set takes a name and a value"));
+    Var(rest.left(sp), true, rest.mid(sp + 1));
+  } else if (cmd == "atyield") {
+    const int sp = rest.indexOf(' ');
+    bool ok = false;
+    const int n = sp < 0 ? 0 : rest.left(sp).toInt(&ok);
+    if (!ok || n < 1) return Error(QStringLiteral("atyield takes a count from 1 and a command"));
+    const QString inner = rest.mid(sp + 1);
+    platform_.AtYield(n, [this, inner] { Execute(inner); });
+  } else if (cmd == "slept") {
+    out_(QStringLiteral("slept=%1").arg(platform_.sleptMs));
+  } else if (cmd == "file") {
+    File(rest);
+  } else if (cmd == "close") {
+    form_.close();
+  } else {
+    Error(QStringLiteral("unknown command %1").arg(cmd));
+  }
+  FlushDrawErrors();
+}
+
+void Driver::Click(const QString& text) {
+  const Target t = ParseTarget(text, false);
+  Control* c = t.ok ? form_.FindControl(t.name, t.index) : nullptr;
+  if (!c) return Error(QStringLiteral("no control %1").arg(text));
+  const QPoint centre = c->mapTo(&form_, c->rect().center());
+  QWidget* reached = form_.isVisible() && c->isVisibleTo(&form_) ? form_.childAt(centre) : nullptr;
+  if (!reached || !(reached == c || c->isAncestorOf(reached)))
+    return Error(QStringLiteral("%1 cannot be reached").arg(TargetText(t)));
+  const QPointF local = reached->mapFrom(&form_, centre);
+  const QPointF global = reached->mapToGlobal(local);
+  QPointer<QWidget> guard(reached);
+  QMouseEvent press(QEvent::MouseButtonPress, local, global, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(reached, &press);
+  if (!guard) return;
+  QMouseEvent release(QEvent::MouseButtonRelease, local, global, Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
+  QApplication::sendEvent(reached, &release);
+}
+
+void Driver::Move(const QString& text) {
+  const Target t = ParseTarget(text, false);
+  Control* c = t.ok ? form_.FindControl(t.name, t.index) : nullptr;
+  if (!c) return Error(QStringLiteral("no control %1").arg(text));
+  const QPoint centre = c->mapTo(&form_, c->rect().center());
+  QWidget* reached = form_.isVisible() && c->isVisibleTo(&form_) ? form_.childAt(centre) : nullptr;
+  if (!reached || !(reached == c || c->isAncestorOf(reached)))
+    return Error(QStringLiteral("%1 cannot be reached").arg(TargetText(t)));
+  const QPointF local = reached->mapFrom(&form_, centre);
+  QMouseEvent move(QEvent::MouseMove, local, reached->mapToGlobal(local), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+  QApplication::sendEvent(reached, &move);
+}
+
+void Driver::Key(const QString& text) {
+  bool ok = false;
+  const int code = text.toInt(&ok);
+  if (!ok || code < 0 || code > 255) return Error(QStringLiteral("key takes a key code from 0 to 255"));
+  QWidget* target = form_.focusWidget();
+  if (!target) target = &form_;
+  QPointer<QWidget> guard(target);
+  QKeyEvent down = MakeKey(QEvent::KeyPress, code);
+  QApplication::sendEvent(target, &down);
+  if (!guard) return;
+  QKeyEvent up = MakeKey(QEvent::KeyRelease, code);
+  QApplication::sendEvent(target, &up);
+}
+
+void Driver::Get(const QString& text) {
+  const Target t = ParseTarget(text, true);
+  if (!t.ok) return Error(QStringLiteral("get takes NAME.PROP or NAME(i).PROP"));
+  const QString head = TargetText(t) + "." + t.prop + "=";
+  if (t.name == "JeuPoker" && t.index < 0) {
+    if (t.prop == "Caption") return out_(head + form_.windowTitle());
+    if (t.prop == "Width") return out_(head + QString::number(form_.width() * kTwipsPerPixel));
+    if (t.prop == "Height") return out_(head + QString::number(form_.height() * kTwipsPerPixel));
+    if (t.prop == "Visible") return out_(head + Bool(form_.isVisible()));
+    return Error(QStringLiteral("JeuPoker has no property %1").arg(t.prop));
+  }
+  if (TimerControl* timer = t.index < 0 ? form_.FindTimer(t.name) : nullptr) {
+    if (t.prop == "Interval") return out_(head + QString::number(timer->Interval()));
+    if (t.prop == "Enabled") return out_(head + Bool(timer->Enabled()));
+    return Error(QStringLiteral("%1 has no property %2").arg(t.name, t.prop));
+  }
+  Control* c = form_.FindControl(t.name, t.index);
+  if (!c) return Error(QStringLiteral("no control %1").arg(TargetText(t)));
+  const QString& p = t.prop;
+  QString v;
+  if (p == "Caption")
+    v = Escape(c->Caption());
+  else if (p == "Visible")
+    v = Bool(c->Visible());
+  else if (p == "Left")
+    v = QString::number(c->Left());
+  else if (p == "Top")
+    v = QString::number(c->Top());
+  else if (p == "Width")
+    v = QString::number(c->Width());
+  else if (p == "Height")
+    v = QString::number(c->Height());
+  else if (p == "Picture")
+    v = c->GetPicture() ? c->GetPicture()->name : QString();
+  else if (p == "ForeColor")
+    v = QString::number(c->ForeColor());
+  else if (p == "BackColor")
+    v = QString::number(c->BackColor());
+  else if (p == "MousePointer")
+    v = QString::number(c->MousePointer());
+  else if (p == "BevelWidth")
+    v = QString::number(c->BevelWidth());
+  else if (p == "Enabled")
+    v = Bool(c->Enabled());
+  else if (p == "Focus")
+    v = Bool(form_.focusWidget() == c);
+  else
+    return Error(QStringLiteral("unknown property %1").arg(p));
+  out_(head + v);
+}
+
+void Driver::Var(const QString& text, bool set, const QString& value) {
+  const Target t = ParseTarget(text, false);
+  const JeuPoker::Variable* v = t.ok ? form_.FindVariable(t.name) : nullptr;
+  if (!v) return Error(QStringLiteral("no variable %1").arg(text));
+  const bool isArray = v->low >= 0 || v->high >= 0;
+  if (isArray && t.index < 0) return Error(QStringLiteral("%1 is an array: give an index").arg(t.name));
+  if (!isArray && t.index >= 0) return Error(QStringLiteral("%1 is not an array").arg(t.name));
+  if (isArray && (t.index < v->low || t.index > v->high))
+    return Error(QStringLiteral("index %1 is outside %2(%3 to %4)").arg(t.index).arg(t.name).arg(v->low).arg(v->high));
+  if (set) {
+    if (!v->set(t.index, value)) Error(QStringLiteral("%1 does not fit %2").arg(value, TargetText(t)));
+    return;
+  }
+  out_(TargetText(t) + "=" + v->get(t.index));
+}
+
+void Driver::File(const QString& name) {
+  if (name.isEmpty()) return Error(QStringLiteral("file takes a name"));
+  QFile f(QDir(form_.ProgramDir()).filePath(name));
+  QFileInfo info(f);
+  if (!info.exists() || info.isDir()) return out_(name + " absent");
+  if (!f.open(QIODevice::ReadOnly)) return Error(QStringLiteral("%1 cannot be read").arg(name));
+  out_(name + "=" + QString::fromLatin1(f.readAll().toHex()));
+}
