@@ -218,12 +218,18 @@ class JeuPoker : public QWidget {
   void Quitte1X5_Click();
   void ChoixCarteQouD();
 
+  // Additions of the classic round (state, Résultat, draw cycle):
+
+  // Additions of holds, automatic selection and double-up:
+
   // ---- 2D game ----------------------------------------------------------------------------
   void Tirage5();
 
   // ---- Probability engine -----------------------------------------------------------------
   void Probabilités();
   void AfficheFréquence();
+
+  // Additions of the probability engine and statistics panel:
 
   // ---- Interface ----------------------------------------------------------------------------
   void AfficheCapital();
@@ -239,6 +245,8 @@ class JeuPoker : public QWidget {
   void Pointeur12();
   void ClignoteAlertes();
   void ModifieLangue();
+  // Additions of the digit displays, bets, pointers and alerts:
+
 
   // ---- Services ---------------------------------------------------------------------------
   void Form_Load();
