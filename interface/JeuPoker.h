@@ -247,7 +247,6 @@ class JeuPoker : public QWidget {
   void ModifieLangue();
   // Additions of the digit displays, bets, pointers and alerts:
 
-
   // ---- Services ---------------------------------------------------------------------------
   void Form_Load();
   void Form_QueryUnload();

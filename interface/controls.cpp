@@ -57,9 +57,7 @@ Control::Control(ControlKind kind, const QString& name, int index, QWidget* pare
       setAttribute(Qt::WA_TransparentForMouseEvents);
       setFocusPolicy(Qt::NoFocus);
       break;
-    default:
-      setFocusPolicy(Qt::NoFocus);
-      break;
+    default: setFocusPolicy(Qt::NoFocus); break;
   }
   if (kind_ == ControlKind::Label || kind_ == ControlKind::Image) backColor_ = 0x000000;
 }
@@ -190,8 +188,7 @@ void Control::paintEvent(QPaintEvent*) {
     return;
   }
   const bool pressedLook = kind_ == ControlKind::Button && (pressed_ || bevelWidth_ <= 1);
-  if (!(kind_ == ControlKind::Label && transparent_) && kind_ != ControlKind::Image)
-    p.fillRect(r, VbColor(backColor_));
+  if (!(kind_ == ControlKind::Label && transparent_) && kind_ != ControlKind::Image) p.fillRect(r, VbColor(backColor_));
 
   if (picture_ && !picture_->pixmap.isNull()) {
     const QSize ps = picture_->pixmap.deviceIndependentSize().toSize();
@@ -220,7 +217,8 @@ void Control::paintEvent(QPaintEvent*) {
     p.drawText(tr, flags, caption_);
   }
 
-  if (kind_ == ControlKind::Panel || kind_ == ControlKind::Button) PaintBevel(p, pressedLook && kind_ == ControlKind::Button);
+  if (kind_ == ControlKind::Panel || kind_ == ControlKind::Button)
+    PaintBevel(p, pressedLook && kind_ == ControlKind::Button);
   if (kind_ == ControlKind::Button && hasFocus()) {
     // A thin focus mark inside the bevel, as buttons show the keyboard focus.
     QPen pen(VbColor(foreColor_));
@@ -242,7 +240,8 @@ void Control::mousePressEvent(QMouseEvent* e) {
     update();
   }
   const QPoint pos = e->position().toPoint();
-  if (MouseDown) MouseDown(VbButton(e->button()), VbShift(e->modifiers()), pos.x() * kTwipsPerPixel, pos.y() * kTwipsPerPixel);
+  if (MouseDown)
+    MouseDown(VbButton(e->button()), VbShift(e->modifiers()), pos.x() * kTwipsPerPixel, pos.y() * kTwipsPerPixel);
   e->accept();
 }
 
@@ -251,7 +250,8 @@ void Control::mouseReleaseEvent(QMouseEvent* e) {
   pressed_ = false;
   if (wasPressed) update();
   const QPoint pos = e->position().toPoint();
-  if (MouseUp) MouseUp(VbButton(e->button()), VbShift(e->modifiers()), pos.x() * kTwipsPerPixel, pos.y() * kTwipsPerPixel);
+  if (MouseUp)
+    MouseUp(VbButton(e->button()), VbShift(e->modifiers()), pos.x() * kTwipsPerPixel, pos.y() * kTwipsPerPixel);
   // A click is a press and a release over the same control with the left button.
   if (e->button() == Qt::LeftButton && rect().contains(pos) && Click) Click();
   e->accept();

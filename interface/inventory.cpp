@@ -190,8 +190,9 @@ void JeuPoker::BuildControls() {
   SSGains->SetBackColor(0x000000);
   SSGains->SetBevelWidth(2);
   static const int rowTop[12] = {2610, 2355, 2100, 1845, 1590, 1335, 1085, 825, 570, 315, 2885, 3135};
-  static const char* titles[12] = {" 1 PAIRE ROI OU AS", " 2 PAIRES", " BRELAN", " QUINTE", " COULEUR", " FULL",
-                                   " CARRE", " QUINTE FLUSH", " QUINTE FLUSH ROYALE", " POKER", " RIEN", " MIEUX"};
+  static const char* titles[12] = {
+      " 1 PAIRE ROI OU AS",   " 2 PAIRES", " BRELAN", " QUINTE", " COULEUR", " FULL", " CARRE", " QUINTE FLUSH",
+      " QUINTE FLUSH ROYALE", " POKER",    " RIEN",   " MIEUX"};
   auto row = [&](const QString& name, int i, int left, int width, int height, Long back) {
     auto* l = Make(K::Label, name, SSGains, left, rowTop[i], width, height, i);
     l->SetBackColor(back);
@@ -280,7 +281,8 @@ void JeuPoker::BuildControls() {
   Mises->SetVisible(false);
   UnADouze = Make(K::Label, "UnADouze", SSMises, 735, 2385, 705, 480);
   UnADouze->SetCaption("1");
-  UnADouze->SetVisible(false);
+  // The level's text stays visible as a control but lies beneath the row's picture.
+  UnADouze->stackUnder(ImageUnàDouze);
   auto betButton = [&](const QString& name, int left, int top, const QString& text) {
     auto* b = Make(K::Button, name, SSMises, left, top, 405, 375);
     b->SetCaption(text);
@@ -417,12 +419,12 @@ void JeuPoker::BuildControls() {
     int mainsLeft, mainsTop, gainsTop, temLeft, temTop, x1, y1, x2, y2;
   };
   static const LineSpec lines[12] = {
-      {5400, 1155, 1410, 105, 1275, 330, 1395, 5370, 1395},  {5400, 2490, 2740, 105, 2610, 330, 2730, 5370, 2730},
-      {5400, 3825, 4080, 105, 3945, 330, 4065, 5370, 4065},  {5400, 5140, 5400, 105, 5280, 330, 5400, 5370, 5400},
-      {5400, 6480, 6735, 105, 6615, 330, 6735, 5370, 6735},  {315, 7475, 7745, 705, 510, 810, 810, 810, 7410},
-      {1320, 7475, 7745, 1710, 510, 1785, 810, 1785, 7410},  {2325, 7475, 7745, 2715, 510, 2790, 810, 2790, 7410},
-      {3330, 7475, 7745, 3720, 510, 3795, 810, 3795, 7410},  {4335, 7475, 7745, 4635, 510, 4800, 810, 4800, 7410},
-      {5400, 7475, 7745, 0, 510, 450, 900, 5460, 7515},      {5400, 135, 390, 0, 7380, 450, 7260, 5430, 600},
+      {5400, 1155, 1410, 105, 1275, 330, 1395, 5370, 1395}, {5400, 2490, 2740, 105, 2610, 330, 2730, 5370, 2730},
+      {5400, 3825, 4080, 105, 3945, 330, 4065, 5370, 4065}, {5400, 5140, 5400, 105, 5280, 330, 5400, 5370, 5400},
+      {5400, 6480, 6735, 105, 6615, 330, 6735, 5370, 6735}, {315, 7475, 7745, 705, 510, 810, 810, 810, 7410},
+      {1320, 7475, 7745, 1710, 510, 1785, 810, 1785, 7410}, {2325, 7475, 7745, 2715, 510, 2790, 810, 2790, 7410},
+      {3330, 7475, 7745, 3720, 510, 3795, 810, 3795, 7410}, {4335, 7475, 7745, 4635, 510, 4800, 810, 4800, 7410},
+      {5400, 7475, 7745, 0, 510, 450, 900, 5460, 7515},     {5400, 135, 390, 0, 7380, 450, 7260, 5430, 600},
   };
   UnADouzeLine = MakeArray(0, 11, [&](int i) {
     auto* l = Make(K::Line, "UnADouzeLine", SSAireJeu5, 0, 0, 0, 0, i);
@@ -463,7 +465,8 @@ void JeuPoker::BuildControls() {
   g12->SetFontSpec(kSerif, 15, true);
   Gains5.Set(12, g12);
   UnADouzeTémoin = MakeArray(0, 11, [&](int i) {
-    auto* l = Make(K::Label, "UnADouzeTémoin", SSAireJeu5, lines[i].temLeft, lines[i].temTop, i < 9 ? 195 : 360, 240, i);
+    auto* l =
+        Make(K::Label, "UnADouzeTémoin", SSAireJeu5, lines[i].temLeft, lines[i].temTop, i < 9 ? 195 : 360, 240, i);
     l->SetCaption(QString::number(i + 1));
     l->SetFontSpec(kMono, 12, true);
     l->SetBackColor(i == 0 ? 0x00FFFF : 0x808080);

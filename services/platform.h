@@ -98,6 +98,10 @@ class ScriptedPlatform : public RealPlatform {
   bool ChangeDisplayMode(const DisplayMode& mode) override;
   void RestoreDisplayMode() override;
   bool Connected() override { return connected; }
+  // A program directory that cannot be written (root ignores file permissions in tests).
+  bool WriteRecordByte(const QString& path, std::uint8_t byte) override {
+    return !readOnlyFiles && RealPlatform::WriteRecordByte(path, byte);
+  }
 
   // Queues draws: each later RandomInt(n) takes the next one.
   void QueueDraws(const std::vector<int>& draws);
@@ -118,6 +122,7 @@ class ScriptedPlatform : public RealPlatform {
   std::vector<DisplayMode> displayChanges;
   int restores = 0;
   bool connected = true;
+  bool readOnlyFiles = false;
   bool processQtEvents = true;
 
  private:
