@@ -219,6 +219,12 @@ class JeuPoker : public QWidget {
   void ChoixCarteQouD();
 
   // Additions of the classic round (state, Résultat, draw cycle):
+  // Fills TableGains for NbJokers (the classic pay table).
+  void RemplitTableGains();
+  // Puts the highlighted row of the pay table back to white on black.
+  void EffaceLigneGagnante();
+  // Shrinks (grow false) or grows Deal(i) in 30 steps of 0.94, yielding at each.
+  void AnimeCarte(int i, bool grow);
 
   // Additions of holds, automatic selection and double-up:
 
@@ -246,6 +252,11 @@ class JeuPoker : public QWidget {
   void ClignoteAlertes();
   void ModifieLangue();
   // Additions of the digit displays, bets, pointers and alerts:
+  // The refusals shared by the bet buttons and their pointers: a double-up, the time between
+  // two drawings, a pending win, no credit.
+  bool MiseRefusée() const;
+  // After a change of Mise: the bet caption, its digits and the pay table's amounts.
+  void MiseChangée();
 
   // ---- Services ---------------------------------------------------------------------------
   void Form_Load();
