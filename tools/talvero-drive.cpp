@@ -26,6 +26,8 @@ bool CopyDirectory(const QString& from, const QString& to) {
   QDirIterator it(from, QDir::Files | QDir::Hidden | QDir::NoDotAndDotDot);
   while (it.hasNext()) {
     const QString path = it.next();
+    // The settings a player left there stay out: every run starts as a first start.
+    if (QFileInfo(path).fileName() == QStringLiteral("Ini.dat")) continue;
     QFile::copy(path, QDir(to).filePath(QFileInfo(path).fileName()));
   }
   return true;
