@@ -2,6 +2,7 @@
 // two-language titles and PLAY faces, the title, the music icons) and the pictures that
 // stand on the screen from the start (row backgrounds and titles, option icons, the choice
 // of game, the card pointer).
+#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QPainter>
 #include <QSvgRenderer>
@@ -15,6 +16,8 @@ Picture JeuPoker::StorePicture(const QString& name, const QPixmap& pixmap) {
 }
 
 void JeuPoker::BuildPictures() {
+  QElapsedTimer clock;
+  clock.start();
   // Rendered at the density of the sharpest screen, shown at the controls' own sizes.
   const qreal dpr = qGuiApp ? qGuiApp->devicePixelRatio() : 1.0;
   // A control gets a picture of its own, named after it.
@@ -97,4 +100,5 @@ void JeuPoker::BuildPictures() {
   Fin->SetCaption(QString());
 
   Control::SetCardPointer(pics::CardPointer(dpr));
+  pics::SetLastBuildSeconds(static_cast<double>(clock.nsecsElapsed()) / 1e9);
 }

@@ -74,6 +74,12 @@ QString CardElement(int code) {
 
 }  // namespace
 
+namespace {
+double lastBuildSeconds = 0;
+}
+double LastBuildSeconds() { return lastBuildSeconds; }
+void SetLastBuildSeconds(double seconds) { lastBuildSeconds = seconds; }
+
 QSvgRenderer& Deck() {
   // Kept for the life of the process: every form built in it reuses the parsed deck.
   static QSvgRenderer* deck = new QSvgRenderer(QStringLiteral(TALVERO_CARD_DECK));

@@ -13,6 +13,10 @@ class QSvgRenderer;
 
 namespace pics {
 
+// How long the last BuildPictures took, in seconds (for the benchmark).
+double LastBuildSeconds();
+void SetLastBuildSeconds(double seconds);
+
 // The SVG deck, parsed once for the whole process.
 QSvgRenderer& Deck();
 
