@@ -5,7 +5,6 @@
 #include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QPainter>
-#include <QSvgRenderer>
 
 #include "interface/JeuPoker.h"
 #include "interface/pictures_art.h"
@@ -18,21 +17,17 @@ Picture JeuPoker::StorePicture(const QString& name, const QPixmap& pixmap) {
 void JeuPoker::BuildPictures() {
   QElapsedTimer clock;
   clock.start();
+  const double cpuStart = pics::ThreadCpuSeconds();
   // Rendered at the density of the sharpest screen, shown at the controls' own sizes.
   const qreal dpr = qGuiApp ? qGuiApp->devicePixelRatio() : 1.0;
+  // The cards render on a worker thread while the other pictures are drawn here.
+  auto cards = pics::RenderCards(Cartes(0).size(), Cartes.High() + 1, Cartes2(0).size(), Cartes2.High() + 1, dpr);
   // A control gets a picture of its own, named after it.
   auto own = [&](Control& c, const QPixmap& pixmap) {
     Picture p = StorePicture(c.FullName(), pixmap);
     c.SetPicture(p);
     return p;
   };
-
-  // Card faces: full size for the classic game, smaller for the grid.
-  QSvgRenderer& deck = pics::Deck();
-  for (int code = Cartes.Low(); code <= Cartes.High(); ++code)
-    own(Cartes(code), pics::CardFace(deck, code, Cartes(code).size(), dpr));
-  for (int code = Cartes2.Low(); code <= Cartes2.High(); ++code)
-    own(Cartes2(code), pics::SmallCardFace(deck, code, Cartes2(code).size(), dpr));
 
   // Digits: red for the winnings, blue for the credit, grey for the bet and the level.
   for (int i = ChiffresModèle.Low(); i <= ChiffresModèle.High(); ++i) {
@@ -100,5 +95,13 @@ void JeuPoker::BuildPictures() {
   Fin->SetCaption(QString());
 
   Control::SetCardPointer(pics::CardPointer(dpr));
-  pics::SetLastBuildSeconds(static_cast<double>(clock.nsecsElapsed()) / 1e9);
+
+  // Card faces: full size for the classic game, smaller for the grid.
+  pics::CardImages faces = cards.get();
+  for (int code = Cartes.Low(); code <= Cartes.High(); ++code)
+    own(Cartes(code), QPixmap::fromImage(std::move(faces.faces[static_cast<std::size_t>(code)])));
+  for (int code = Cartes2.Low(); code <= Cartes2.High(); ++code)
+    own(Cartes2(code), QPixmap::fromImage(std::move(faces.small[static_cast<std::size_t>(code)])));
+
+  pics::SetLastBuildTime({static_cast<double>(clock.nsecsElapsed()) / 1e9, pics::ThreadCpuSeconds() - cpuStart});
 }

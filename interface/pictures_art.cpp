@@ -11,6 +11,8 @@
 #include <QTransform>
 #include <array>
 #include <cmath>
+#include <ctime>
+#include <future>
 
 #ifndef TALVERO_CARD_DECK
 #define TALVERO_CARD_DECK "/usr/share/carddecks/svg-nicu-white/white.svgz"
@@ -75,18 +77,37 @@ QString CardElement(int code) {
 }  // namespace
 
 namespace {
-double lastBuildSeconds = 0;
+BuildTime lastBuildTime;
 }
-double LastBuildSeconds() { return lastBuildSeconds; }
-void SetLastBuildSeconds(double seconds) { lastBuildSeconds = seconds; }
+BuildTime LastBuildTime() { return lastBuildTime; }
+void SetLastBuildTime(BuildTime t) { lastBuildTime = t; }
+double ThreadCpuSeconds() {
+  timespec ts{};
+  clock_gettime(CLOCK_THREAD_CPUTIME_ID, &ts);
+  return static_cast<double>(ts.tv_sec) + static_cast<double>(ts.tv_nsec) / 1e9;
+}
 
 QSvgRenderer& Deck() {
-  // Kept for the life of the process: every form built in it reuses the parsed deck.
+  // Parsed on first use and kept for the life of the process, so that every form built in
+  // it reuses the parsed deck. Only one thread at a time renders with it: the worker of
+  // RenderCards, which the form waits for.
   static QSvgRenderer* deck = new QSvgRenderer(QStringLiteral(TALVERO_CARD_DECK));
   return *deck;
 }
 
-QPixmap CardFace(QSvgRenderer& deck, int code, QSize size, qreal dpr) {
+std::future<CardImages> RenderCards(QSize faceSize, int faces, QSize smallSize, int smalls, qreal dpr) {
+  return std::async(std::launch::async, [=] {
+    QSvgRenderer& deck = Deck();
+    CardImages out;
+    out.faces.reserve(static_cast<std::size_t>(faces));
+    out.small.reserve(static_cast<std::size_t>(smalls));
+    for (int code = 0; code < faces; ++code) out.faces.push_back(CardFace(deck, code, faceSize, dpr));
+    for (int code = 0; code < smalls; ++code) out.small.push_back(SmallCardFace(deck, code, smallSize, dpr));
+    return out;
+  });
+}
+
+QImage CardFace(QSvgRenderer& deck, int code, QSize size, qreal dpr) {
   QImage img = Canvas(size, dpr);
   QPainter p(&img);
   Smooth(p);
@@ -94,10 +115,10 @@ QPixmap CardFace(QSvgRenderer& deck, int code, QSize size, qreal dpr) {
   // exactly, narrowing it by a tenth, which keeps the corner indexes large.
   deck.render(&p, CardElement(code), QRectF(QPointF(0, 0), QSizeF(size)));
   p.end();
-  return Done(std::move(img));
+  return img;
 }
 
-QPixmap SmallCardFace(QSvgRenderer& deck, int code, QSize size, qreal dpr) {
+QImage SmallCardFace(QSvgRenderer& deck, int code, QSize size, qreal dpr) {
   QImage img = Canvas(size, dpr);
   QPainter p(&img);
   Smooth(p);
@@ -108,7 +129,7 @@ QPixmap SmallCardFace(QSvgRenderer& deck, int code, QSize size, qreal dpr) {
   const QRectF target(QPointF((size.width() - face.width()) / 2, (size.height() - face.height()) / 2), face);
   deck.render(&p, id, target);
   p.end();
-  return Done(std::move(img));
+  return img;
 }
 
 QPixmap Digit(int digit, DigitColour colour, QSize size, qreal dpr) {

@@ -5,26 +5,44 @@
 #pragma once
 
 #include <QColor>
+#include <QImage>
 #include <QPixmap>
 #include <QSize>
 #include <QString>
+#include <future>
+#include <vector>
 
 class QSvgRenderer;
 
 namespace pics {
 
-// How long the last BuildPictures took, in seconds (for the benchmark).
-double LastBuildSeconds();
-void SetLastBuildSeconds(double seconds);
+// How long the last BuildPictures took, in seconds of the clock and of the thread's
+// processor time (for the benchmark).
+struct BuildTime {
+  double wall = 0;
+  double cpu = 0;
+};
+BuildTime LastBuildTime();
+void SetLastBuildTime(BuildTime t);
+// The calling thread's processor time, in seconds.
+double ThreadCpuSeconds();
 
 // The SVG deck, parsed once for the whole process.
 QSvgRenderer& Deck();
 
 // Card `code` (0..51 by 13 x suit + rank, 52 and 53 the jokers, 54 the back) at full size,
 // filling `size` exactly.
-QPixmap CardFace(QSvgRenderer& deck, int code, QSize size, qreal dpr);
+QImage CardFace(QSvgRenderer& deck, int code, QSize size, qreal dpr);
 // The smaller face of the grid: the card keeps its own proportions and is centred in `size`.
-QPixmap SmallCardFace(QSvgRenderer& deck, int code, QSize size, qreal dpr);
+QImage SmallCardFace(QSvgRenderer& deck, int code, QSize size, qreal dpr);
+
+// Every card in both sizes, codes 0..faces-1 and 0..smalls-1, rendered on a worker thread
+// (parsing the deck there the first time) while the caller draws the rest.
+struct CardImages {
+  std::vector<QImage> faces;
+  std::vector<QImage> small;
+};
+std::future<CardImages> RenderCards(QSize faceSize, int faces, QSize smallSize, int smalls, qreal dpr);
 
 // Digit pictures of the amount displays.
 enum class DigitColour { Red, Blue, Grey };
