@@ -361,27 +361,26 @@ QPixmap GameTitle(int form, QSize size, qreal dpr) {
 }
 
 namespace {
-// Two beamed quavers in a 36 by 38 box.
+// Two beamed quavers in a 36 by 38 box. The stems stand apart, so that the number of the
+// piece, written over the button's centre, sits between them under the beam.
 QPainterPath NotesPath() {
-  QPainterPath heads;
-  QTransform t;
-  auto head = [&](QPointF c) {
+  auto head = [](QPointF c) {
     QPainterPath e;
-    e.addEllipse(QPointF(0, 0), 5.2, 3.6);
+    e.addEllipse(QPointF(0, 0), 5, 3.5);
     QTransform r;
     r.translate(c.x(), c.y());
     r.rotate(-22);
     return r.map(e);
   };
-  QPainterPath path = head(QPointF(10, 29)).united(head(QPointF(25, 26)));
+  QPainterPath path = head(QPointF(7.6, 30)).united(head(QPointF(27.6, 27)));
   QPainterPath stems;
-  stems.addRect(QRectF(13.6, 8, 2.2, 21));
-  stems.addRect(QRectF(28.6, 5, 2.2, 21));
+  stems.addRect(QRectF(10.6, 7.5, 2.2, 22.5));
+  stems.addRect(QRectF(30.6, 4.5, 2.2, 22.5));
   QPainterPath beam;
-  beam.moveTo(13.6, 8);
-  beam.lineTo(30.8, 4.2);
-  beam.lineTo(30.8, 9.4);
-  beam.lineTo(13.6, 13.2);
+  beam.moveTo(10.6, 7.5);
+  beam.lineTo(32.8, 3.3);
+  beam.lineTo(32.8, 8.1);
+  beam.lineTo(10.6, 12.3);
   beam.closeSubpath();
   return path.united(stems).united(beam);
 }
@@ -413,8 +412,8 @@ QPixmap MusicIcon(bool on, QSize size, qreal dpr) {
   p.setPen(QPen(QColor(30, 20, 0, 200), 1.2));
   if (on) {
     QLinearGradient g(0, 4, 0, 34);
-    g.setColorAt(0, QColor(255, 220, 110));
-    g.setColorAt(1, QColor(200, 130, 20));
+    g.setColorAt(0, QColor(250, 205, 90));
+    g.setColorAt(1, QColor(170, 105, 10));
     p.setBrush(g);
   } else {
     p.setBrush(QColor(150, 150, 150));
@@ -422,9 +421,9 @@ QPixmap MusicIcon(bool on, QSize size, qreal dpr) {
   p.drawPath(notes);
   if (!on) {
     p.setPen(QPen(QColor(40, 0, 0), 5, Qt::SolidLine, Qt::RoundCap));
-    p.drawLine(QPointF(6, 33), QPointF(30, 5));
+    p.drawLine(QPointF(5, 34), QPointF(31, 4));
     p.setPen(QPen(QColor(230, 30, 20), 3, Qt::SolidLine, Qt::RoundCap));
-    p.drawLine(QPointF(6, 33), QPointF(30, 5));
+    p.drawLine(QPointF(5, 34), QPointF(31, 4));
   }
   p.end();
   return Done(std::move(img));
@@ -553,13 +552,13 @@ QPixmap ClassicGameIcon(QSize size, qreal dpr) {
   p.scale(size.width() / 87.0, size.height() / 87.0);
   // A royal flush held as a fan.
   static const char* const ranks[5] = {"10", "J", "Q", "K", "A"};
-  const QSizeF card(30, 42);
-  const QPointF pivot(43.5, 80);
+  const QSizeF card(28, 40);
+  const QPointF pivot(43.5, 82);
   for (int i = 0; i < 5; ++i) {
     p.save();
     p.translate(pivot);
-    p.rotate(-20 + 10 * i);
-    MiniCard(p, QRectF(QPointF(-card.width() / 2, -20 - card.height()), card), QString::fromLatin1(ranks[i]), 2);
+    p.rotate(-24 + 12 * i);
+    MiniCard(p, QRectF(QPointF(-card.width() / 2, -22 - card.height()), card), QString::fromLatin1(ranks[i]), 2);
     p.restore();
   }
   p.end();

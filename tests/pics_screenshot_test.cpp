@@ -59,6 +59,11 @@ TEST(PicturesShots, StartScreenAndSheets) {
   h.form->MiseImage(0).SetVisible(true);
   for (int i = 0; i <= 4; ++i) h.form->ImageConseils(i).SetVisible(true);
   h.form->Deal(1).SetMousePointer(99);
+  h.form->SSMusic(0).SetCaption("3");
+  for (int i = 0; i <= 4; ++i) {
+    h.form->CartesMains(i).SetPicture(h.form->Cartes(8 + 13 * (i % 4)).GetPicture());
+    h.form->CartesMains(i).SetVisible(true);
+  }
   QCoreApplication::processEvents();
   EXPECT_TRUE(h.form->grab().save(dir.filePath("deal.png")));
 
