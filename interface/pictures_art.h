@@ -1,0 +1,80 @@
+// The game's artwork: card faces from the SVG deck and everything else drawn with QPainter.
+//
+// Every function returns a pixmap of the given logical size, rendered at `dpr` device pixels
+// per logical pixel and tagged with that ratio, so that it stays sharp on high-density screens.
+#pragma once
+
+#include <QColor>
+#include <QImage>
+#include <QPixmap>
+#include <QSize>
+#include <QString>
+#include <future>
+#include <vector>
+
+class QSvgRenderer;
+
+namespace pics {
+
+// How long the last BuildPictures took, in seconds of the clock and of the thread's
+// processor time (for the benchmark).
+struct BuildTime {
+  double wall = 0;
+  double cpu = 0;
+};
+BuildTime LastBuildTime();
+void SetLastBuildTime(BuildTime t);
+// The calling thread's processor time, in seconds.
+double ThreadCpuSeconds();
+
+// The SVG deck, parsed once for the whole process.
+QSvgRenderer& Deck();
+
+// Card `code` (0..51 by 13 x suit + rank, 52 and 53 the jokers, 54 the back) at full size,
+// filling `size` exactly.
+QImage CardFace(QSvgRenderer& deck, int code, QSize size, qreal dpr);
+// The smaller face of the grid: the card keeps its own proportions and is centred in `size`.
+QImage SmallCardFace(QSvgRenderer& deck, int code, QSize size, qreal dpr);
+
+// Every card in both sizes, codes 0..faces-1 and 0..smalls-1, rendered on a worker thread
+// (parsing the deck there the first time) while the caller draws the rest.
+struct CardImages {
+  std::vector<QImage> faces;
+  std::vector<QImage> small;
+};
+std::future<CardImages> RenderCards(QSize faceSize, int faces, QSize smallSize, int smalls, qreal dpr);
+
+// Digit pictures of the amount displays.
+enum class DigitColour { Red, Blue, Grey };
+constexpr QColor kDisplayWindow{12, 12, 14};  // the dark window the digits stand in
+QPixmap Digit(int digit, DigitColour colour, QSize size, qreal dpr);
+
+// The face of the PLAY button.
+QPixmap PlayFace(const QString& word, bool pressed, QSize size, qreal dpr);
+
+// The title of an amount row: the word in the row's accent colour on a clear ground.
+QPixmap RowTitle(const QString& text, QColor colour, QSize size, qreal dpr);
+// The background of an amount row; `windowLeft`..`windowRight` bound the digit window.
+QPixmap RowBackground(QColor accent, int windowLeft, int windowRight, int windowTop, int windowBottom, QSize size,
+                      qreal dpr);
+
+// The game's name in the title bar, in one of its two blinking forms (1 or 2).
+QPixmap GameTitle(int form, QSize size, qreal dpr);
+
+// Music on and off.
+QPixmap MusicIcon(bool on, QSize size, qreal dpr);
+// The advice marker (a lamp) and the hand of manual selection.
+QPixmap AdviceIcon(QSize size, qreal dpr);
+QPixmap HandIcon(QSize size, qreal dpr);
+// The mouse pointer over a card that can be acted on; its tip is at (4, 1).
+QPixmap CardPointer(qreal dpr);
+
+// The two game choices: five cards in a row and a 5 by 5 grid.
+QPixmap ClassicGameIcon(QSize size, qreal dpr);
+QPixmap GridGameIcon(QSize size, qreal dpr);
+
+// Leaving the game, and the two languages as flags.
+QPixmap PowerIcon(QSize size, qreal dpr);
+QPixmap FlagIcon(bool english, QSize size, qreal dpr);
+
+}  // namespace pics
