@@ -221,6 +221,15 @@ class JeuPoker : public QWidget {
   // Additions of the classic round (state, Résultat, draw cycle):
 
   // Additions of holds, automatic selection and double-up:
+  // Hold and reject words of the language in force.
+  QString MotGarder() const;
+  QString MotJeter() const;
+  // Turns Jouez(index) from held to rejected or back; any other caption counts as rejected.
+  void InverseJouez(int index);
+  // Marks position PositionsMain(i) to be kept.
+  void MarqueCarte(int i);
+  // Fills NomsValeurs with the card names of the language in force.
+  void RemplitNomsValeurs();
 
   // ---- 2D game ----------------------------------------------------------------------------
   void Tirage5();
