@@ -261,6 +261,11 @@ class JeuPoker : public QWidget {
   void ClignoteAlertes();
   void ModifieLangue();
   // Additions of the digit displays, bets, pointers and alerts:
+  // The refusals shared by the bet buttons and their pointers: a double-up, the time between
+  // two drawings, a pending win, no credit.
+  bool MiseRefusée() const;
+  // After a change of Mise: the bet caption, its digits and the pay table's amounts.
+  void MiseChangée();
 
 
   // ---- Services ---------------------------------------------------------------------------
