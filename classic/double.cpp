@@ -2,30 +2,12 @@
 // card at position 0 (never an ace, so the player can always still win); the player turns
 // one of the four masked cards. The win stays in GainMain throughout and reaches Capital only
 // through InitPremierTirage.
-#include <cmath>
-
 #include "interface/JeuPoker.h"
 #include "services/platform.h"
 
 namespace {
 bool English(Byte langue) { return langue == 0 || langue == 2; }
 
-// The card closes towards its top left corner in 30 steps, and opens again in 30; the size
-// is left wherever the arithmetic and the control's rounding leave it.
-void Rétrécit(Control& carte) {
-  for (int k = 1; k <= 30; ++k) {
-    Sys().DoEvents();
-    carte.SetHeight(static_cast<int>(std::lrint(carte.Height() * 0.94)));
-    carte.SetWidth(static_cast<int>(std::lrint(carte.Width() * 0.94)));
-  }
-}
-void Agrandit(Control& carte) {
-  for (int k = 1; k <= 30; ++k) {
-    Sys().DoEvents();
-    carte.SetHeight(static_cast<int>(std::lrint(carte.Height() / 0.94)));
-    carte.SetWidth(static_cast<int>(std::lrint(carte.Width() / 0.94)));
-  }
-}
 }  // namespace
 
 void JeuPoker::Double1X5_Click() {
@@ -68,11 +50,10 @@ void JeuPoker::ChoixCarteQouD() {
     DoubleCarte3 = vb::CByte(r + 13 * s);
   } while (r == DoubleCarte1 && s == DoubleCarte2);
 
-  Control& carte = Deal(CarteChoisie);
-  if (!AffichageImmédiat) Rétrécit(carte);
-  carte.SetPicture(Cartes(DoubleCarte3).GetPicture());
+  if (!AffichageImmédiat) AnimeCarte(CarteChoisie, false);
+  Deal(CarteChoisie).SetPicture(Cartes(DoubleCarte3).GetPicture());
   CartesTirage(CarteChoisie) = vb::CByte(r + 13 * s);
-  if (!AffichageImmédiat) Agrandit(carte);
+  if (!AffichageImmédiat) AnimeCarte(CarteChoisie, true);
 
   // The names follow the language in force at the moment of the duel.
   RemplitNomsValeurs();

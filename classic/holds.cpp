@@ -12,18 +12,18 @@ constexpr int kKeypad5 = 101;
 bool English(Byte langue) { return langue == 0 || langue == 2; }
 }  // namespace
 
-QString JeuPoker::MotGarder() const { return English(Langue) ? QStringLiteral("HOLD") : QStringLiteral("GARDER"); }
+QString JeuPoker::MotCarteGardée() const { return English(Langue) ? QStringLiteral("HOLD") : QStringLiteral("GARDER"); }
 
-QString JeuPoker::MotJeter() const { return English(Langue) ? QStringLiteral("REJECT") : QStringLiteral("JETER"); }
+QString JeuPoker::MotCarteJetée() const { return English(Langue) ? QStringLiteral("REJECT") : QStringLiteral("JETER"); }
 
 void JeuPoker::InverseJouez(int index) {
   Control& jouez = Jouez(index);
-  if (jouez.Caption() == MotGarder()) {
-    jouez.SetCaption(MotJeter());
+  if (jouez.Caption() == MotCarteGardée()) {
+    jouez.SetCaption(MotCarteJetée());
     jouez.SetBackColor(kRejectedColour);
   } else {
     // "JOUEZ"/"PLAY", or a word of the other language, counts as not held.
-    jouez.SetCaption(MotGarder());
+    jouez.SetCaption(MotCarteGardée());
     jouez.SetBackColor(kHeldColour);
   }
 }

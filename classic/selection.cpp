@@ -25,7 +25,7 @@ void JeuPoker::GardeCartes() {
   if (ParesseNon->BevelWidth() == 0) {
     for (int i = 0; i <= 4; ++i) {
       Jouez(i).SetBackColor(kRejectedColour);
-      Jouez(i).SetCaption(MotJeter());
+      Jouez(i).SetCaption(MotCarteJetée());
     }
   }
 
@@ -130,10 +130,10 @@ void JeuPoker::GardeCartes() {
     if (automatique) {
       for (int i = 0; i <= 4; ++i) {
         if (CartesGardées(i)) {
-          Jouez(i).SetCaption(MotGarder());
+          Jouez(i).SetCaption(MotCarteGardée());
           Jouez(i).SetBackColor(kHeldColour);
         } else {
-          Jouez(i).SetCaption(MotJeter());
+          Jouez(i).SetCaption(MotCarteJetée());
           Jouez(i).SetBackColor(kRejectedColour);
         }
       }

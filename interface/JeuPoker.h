@@ -228,8 +228,8 @@ class JeuPoker : public QWidget {
 
   // Additions of holds, automatic selection and double-up:
   // Hold and reject words of the language in force.
-  QString MotGarder() const;
-  QString MotJeter() const;
+  QString MotCarteGardée() const;
+  QString MotCarteJetée() const;
   // Turns Jouez(index) from held to rejected or back; any other caption counts as rejected.
   void InverseJouez(int index);
   // Marks position PositionsMain(i) to be kept.

@@ -10,6 +10,8 @@ using holds::Code;
 
 namespace {
 
+constexpr long long kBlinkMs = 7 * (40 + 150);
+
 // The end of a paying round: a pair of kings worth `gain`, DOUBLE offered.
 void Offered(Harness& h, Long gain = 5) {
   JeuPoker& f = *h.form;
@@ -161,8 +163,10 @@ TEST(HoldsDouble, LossWithEnoughCreditStartsANewDrawing) {
   Offered(h, 5);
   JeuPoker& f = *h.form;
   House(h, 5, 0);
+  f.Plus->SetMousePointer(12);
   h.platform.QueueDraws({2, 3});  // four of spades
   h.Drive({"click Deal(3)"});
+  EXPECT_EQ(f.Plus->MousePointer(), 10);  // the bet can change again
   EXPECT_EQ(f.SSAlertes->Caption(), "YOU LOST ! 4 of Spades is beaten by 7 of Clubs. NEW DRAWING.");
   EXPECT_EQ(f.GainMain, 0);
   EXPECT_EQ(f.Gains->Caption(), "");
@@ -189,6 +193,7 @@ TEST(HoldsDouble, LossWithCreditBelowTheStakePutsTheBetBackToOne) {
   for (int i = 0; i < 10; ++i) f.TableGains(i) = (i + 1) * 3;
   for (int i = 0; i < 10; ++i) f.MainLabel(i).SetCaption(QString::number(f.TableGains(i) * 5));
   House(h, 5, 0);
+  f.Plus->SetMousePointer(12);
   h.platform.QueueDraws({4, 0});
   h.Drive({"click Deal(1)"});
   EXPECT_EQ(f.SSAlertes->Caption(), "YOU LOST ! WARNING ! No more credit ! Bet back to 1.");
@@ -200,7 +205,8 @@ TEST(HoldsDouble, LossWithCreditBelowTheStakePutsTheBetBackToOne) {
   EXPECT_EQ(f.GainMain, 0);
   EXPECT_EQ(f.Gains->Caption(), "");
   EXPECT_EQ(f.Capital, 3);
-  // The pointers are those the pick left.
+  // The pointers are those the pick left; the bet buttons are not told.
+  EXPECT_EQ(f.Plus->MousePointer(), 12);
   EXPECT_EQ(f.Jouer->MousePointer(), 10);
   EXPECT_EQ(f.AutoPlay->MousePointer(), 10);
 }
@@ -223,8 +229,10 @@ TEST(HoldsDouble, LossWithNoCreditLeftPointsToANewGame) {
   JeuPoker& f = *h.form;
   f.Capital = 0;
   House(h, 5, 0);
+  f.Plus->SetMousePointer(10);
   h.platform.QueueDraws({4, 0});
   h.Drive({"click Deal(1)"});
+  EXPECT_EQ(f.Plus->MousePointer(), 12);
   EXPECT_EQ(f.SSAlertes->Caption(),
             "YOU LOST ! WARNING ! No more credit ! Click on the icon up on the right handside of the screen for a new "
             "game.");
@@ -295,7 +303,10 @@ TEST(HoldsDouble, PositionZeroCannotBeChosen) {
   Offered(h, 5);
   JeuPoker& f = *h.form;
   House(h, 5, 0);
-  h.Drive({"click Deal(0)", "key 97"});
+  h.Drive({"click Deal(0)"});
+  EXPECT_EQ(h.platform.sleptMs, kBlinkMs);
+  h.Drive({"key 97"});
+  EXPECT_EQ(h.platform.sleptMs, kBlinkMs);  // the key is dropped without a blink
   EXPECT_TRUE(f.DoubleEnCours);
   EXPECT_EQ(f.CarteChoisie, 0);
   EXPECT_EQ(f.CarteClavier, 0);
@@ -384,13 +395,14 @@ TEST(HoldsDouble, DoublingPastTheLongRangeIsAnOverflow) {
       ::testing::ExitedWithCode(3), "run-time error 6");
 }
 
-TEST(HoldsDouble, DoublingUpToTheTopOfTheRangeIsFine) {
+TEST(HoldsDouble, ALargeWinDoublesExactly) {
   Harness h;
-  Offered(h, (1 << 30) - 1);
+  Offered(h, 12345678);
   House(h, 0, 0);
   h.platform.QueueDraws({12, 0});
   h.Drive({"click Deal(1)"});
-  EXPECT_EQ(h.form->GainMain, 2147483646);
+  EXPECT_EQ(h.form->GainMain, 24691356);
+  EXPECT_EQ(h.form->Gains->Caption(), "24691356");
 }
 
 // ---- Banking by QUITTE ------------------------------------------------------------------------

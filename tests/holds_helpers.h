@@ -51,7 +51,7 @@ inline void FirstDrawing(JeuPoker& f, const std::string& text) {
 // The positions whose Jouez caption is the hold word, as "10110".
 inline std::string HeldWords(JeuPoker& f) {
   std::string s;
-  for (int i = 0; i < 5; ++i) s += f.Jouez(i).Caption() == f.MotGarder() ? '1' : '0';
+  for (int i = 0; i < 5; ++i) s += f.Jouez(i).Caption() == f.MotCarteGardée() ? '1' : '0';
   return s;
 }
 

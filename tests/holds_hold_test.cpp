@@ -11,6 +11,9 @@ using holds::HeldWords;
 
 namespace {
 
+// What one blink of the alert line sleeps in all.
+constexpr long long kBlinkMs = 7 * (40 + 150);
+
 // The state between the drawings, with the manual option: all five rejected.
 void BetweenDrawings(Harness& h, const std::string& hand = "2C 5D 9H JS 7C") {
   holds::ManualSelection(*h.form);
@@ -77,6 +80,7 @@ TEST(HoldsClick, ClickBeforeAnyDealIsRefused) {
   JeuPoker& f = *h.form;
   ASSERT_EQ(f.NbTirées, 0);
   h.Drive({"click Deal(1)"});
+  EXPECT_EQ(h.platform.sleptMs, kBlinkMs);
   EXPECT_EQ(f.Jouez(1).Caption(), "JOUEZ");
   EXPECT_EQ(f.Jouez(1).BackColor(), 0x808000);
 }
@@ -88,6 +92,7 @@ TEST(HoldsClick, ClickDuringADrawingIsRefused) {
     h.form->NbTirées = stage;
     h.Drive({"click Deal(0)"});
     EXPECT_EQ(HeldWords(*h.form), "00000") << int(stage);
+    EXPECT_EQ(h.platform.sleptMs, kBlinkMs);
   }
 }
 
@@ -100,6 +105,7 @@ TEST(HoldsClick, ClickAtTheEndOfAWinningRoundIsRefused) {
   f.Doubler->SetVisible(true);
   const QString before = f.Jouez(4).Caption();
   h.Drive({"click Deal(4)"});
+  EXPECT_EQ(h.platform.sleptMs, kBlinkMs);
   EXPECT_EQ(f.Jouez(4).Caption(), before);
   EXPECT_FALSE(f.DoubleEnCours);
   EXPECT_EQ(f.CarteChoisie, 0);
@@ -111,6 +117,7 @@ TEST(HoldsClick, ClickIsIgnoredWhileAutomaticModeRuns) {
   h.form->AutoPlay->SetBevelWidth(0);
   h.Drive({"click Deal(2)"});
   EXPECT_EQ(HeldWords(*h.form), "00000");
+  EXPECT_EQ(h.platform.sleptMs, 0);
 }
 
 TEST(HoldsClick, ClickGivesTheFocusToTirage) {
@@ -248,18 +255,19 @@ TEST(HoldsOption, ManualOptionThenADrawingKeepsNothing) {
 struct Refusal {
   const char* what;
   std::function<void(JeuPoker&)> setUp;
+  bool blinks;
 };
 
 TEST(HoldsOption, RefusedDuringARoundOrADoubleUpOrWithoutCredit) {
   const Refusal refusals[] = {
-      {"between the drawings", [](JeuPoker& f) { f.NbTirées = 5; }},
-      {"between the grid drawings", [](JeuPoker& f) { f.NbTirées = 25; }},
-      {"double-up awaiting a choice", [](JeuPoker& f) { f.DoubleEnCours = true; }},
-      {"double-up offered", [](JeuPoker& f) { f.Doubler->SetVisible(true); }},
-      {"grid double-up offered", [](JeuPoker& f) { f.Doubler5->SetVisible(true); }},
-      {"no credit", [](JeuPoker& f) { f.Capital = 0; }},
-      {"automatic mode runs", [](JeuPoker& f) { f.AutoPlay->SetBevelWidth(0); }},
-      {"JEU 2 in force", [](JeuPoker& f) { f.Jeu3D->SetBevelWidth(1); }},
+      {"between the drawings", [](JeuPoker& f) { f.NbTirées = 5; }, true},
+      {"between the grid drawings", [](JeuPoker& f) { f.NbTirées = 25; }, true},
+      {"double-up awaiting a choice", [](JeuPoker& f) { f.DoubleEnCours = true; }, true},
+      {"double-up offered", [](JeuPoker& f) { f.Doubler->SetVisible(true); }, true},
+      {"grid double-up offered", [](JeuPoker& f) { f.Doubler5->SetVisible(true); }, true},
+      {"no credit", [](JeuPoker& f) { f.Capital = 0; }, true},
+      {"automatic mode runs", [](JeuPoker& f) { f.AutoPlay->SetBevelWidth(0); }, false},
+      {"JEU 2 in force", [](JeuPoker& f) { f.Jeu3D->SetBevelWidth(1); }, false},
   };
   for (const auto& r : refusals) {
     SCOPED_TRACE(r.what);
@@ -267,6 +275,7 @@ TEST(HoldsOption, RefusedDuringARoundOrADoubleUpOrWithoutCredit) {
     JeuPoker& f = *h.form;
     r.setUp(f);
     f.ParesseNon_Click();
+    EXPECT_EQ(h.platform.sleptMs, r.blinks ? kBlinkMs : 0);
     EXPECT_EQ(f.ParesseOui->BevelWidth(), 0);
     EXPECT_EQ(f.ParesseNon->BevelWidth(), 3);
     EXPECT_TRUE(f.PParesseOui->Visible());
@@ -279,6 +288,7 @@ TEST(HoldsOption, ClickOnTheSelectedButtonChangesNothing) {
   JeuPoker& f = *h.form;
   f.ParesseOui->SetMousePointer(5);
   f.ParesseOui_Click();
+  EXPECT_EQ(h.platform.sleptMs, 0);
   EXPECT_EQ(f.ParesseOui->BevelWidth(), 0);
   EXPECT_EQ(f.ParesseOui->MousePointer(), 5);
   EXPECT_EQ(f.ParesseNon->BevelWidth(), 3);
