@@ -1,10 +1,206 @@
-#include "interface/JeuPoker.h"
+// The draw cycle of the classic game: JOUER and the Space key, the two drawings of a round
+// and the turning down of the cards to be replaced.
+//
+// Everything yields to the event loop at each card and at each animation step, so any
+// handler can run inside a drawing, a JOUER click included: that runs a nested Tirage1.
+// There is deliberately no guard; the tests of NbTirées in the handlers are the only
+// protection.
+#include <cmath>
 
-void JeuPoker::Jouer_Click() {}
-void JeuPoker::Jouer_MouseDown(int, int, int, int) {}
-void JeuPoker::Jouer_MouseUp(int, int, int, int) {}
-void JeuPoker::Tirage_KeyDown(int, int) {}
-void JeuPoker::Tirage_KeyUp(int, int) {}
-void JeuPoker::Tirage1() {}
-void JeuPoker::InitTirage() {}
-void JeuPoker::RegisterClassicVariables() {}
+#include "interface/JeuPoker.h"
+#include "services/platform.h"
+
+namespace {
+bool Anglais(Byte langue) { return langue == 0 || langue == 2; }
+QString MotJeter(Byte langue) { return Anglais(langue) ? QStringLiteral("REJECT") : QStringLiteral("JETER"); }
+constexpr int kDos = 54;  // Cartes(54), the card back
+}  // namespace
+
+void JeuPoker::RegisterClassicVariables() {
+  // The round has no variables of its own beyond the table state bound with the core.
+}
+
+// ---- The JOUER button and the Space key ------------------------------------------------
+
+// The pictures of JOUER ask only whether Langue is 2; every text asks whether it is 0 or 2.
+void JeuPoker::Jouer_MouseDown(int, int, int, int) {
+  JouerImage(0).SetPicture(JouerImage(Langue == 2 ? 4 : 3).GetPicture());
+}
+
+void JeuPoker::Jouer_MouseUp(int, int, int, int) {
+  JouerImage(0).SetPicture(JouerImage(Langue == 2 ? 2 : 1).GetPicture());
+}
+
+void JeuPoker::Tirage_KeyDown(int keyCode, int) {
+  if (keyCode != 32) return;
+  JouerImage(0).SetPicture(JouerImage(Langue == 2 ? 4 : 3).GetPicture());
+}
+
+void JeuPoker::Tirage_KeyUp(int keyCode, int) {
+  if (keyCode != 32) return;
+  JouerImage(0).SetPicture(JouerImage(Langue == 2 ? 2 : 1).GetPicture());
+  Jouer_Click();
+}
+
+void JeuPoker::Jouer_Click() {
+  if (AutoPlay->BevelWidth() == 0) return;
+  if (DoubleEnCours) {
+    ClignoteAlertes();
+    return;
+  }
+  // Lost: no credit and nothing pending. Only a new game helps.
+  if ((NbTirées == 10 || NbTirées == 50) && Capital == 0 && Gains->Caption().isEmpty()) {
+    ClignoteAlertes();
+    return;
+  }
+  if (!SSAlertes->Caption().isEmpty()) SSAlertes->SetCaption(QString());
+  Sys().DoEvents();
+  if (SSAireJeu->Visible()) Tirage1();
+  if (SSAireJeu5->Visible()) Tirage5();
+}
+
+// ---- One drawing -----------------------------------------------------------------------
+
+void JeuPoker::AnimeCarte(int i, bool grow) {
+  for (int step = 0; step < 30; ++step) {
+    Sys().DoEvents();
+    const double f = grow ? 1.0 / 0.94 : 0.94;
+    Deal(i).SetHeight(static_cast<int>(std::lround(Deal(i).Height() * f)));
+    Deal(i).SetWidth(static_cast<int>(std::lround(Deal(i).Width() * f)));
+  }
+}
+
+void JeuPoker::Tirage1() {
+  // 1. A new round: settle what the last one left and forget the cards gone.
+  if (NbTirées != 5) {
+    InitPremierTirage();
+    for (int i = 0; i <= 4; ++i) Deal(i).SetMousePointer(99);
+  }
+  // 2.
+  if (Doubler->Visible()) Doubler->SetVisible(false);
+  // 3. The stake, at the start of a round only (the credit is not checked here).
+  if (NbTirées == 0) {
+    Capital = vb::CLng(static_cast<long long>(Capital) - static_cast<long long>(Niveau) * Mise);
+    AfficheCapital();
+  }
+  // 4.
+  InitTirage();
+
+  // 5. Every position counts, dealt or kept.
+  for (int i = 0; i <= 4; ++i) {
+    NbTirées = vb::CByte(NbTirées + 1);
+    bool distribuée = false;
+    int tirée = 0;
+    for (;;) {
+      Sys().DoEvents();
+      const bool àDonner = Deal(i).GetPicture() == Cartes(kDos).GetPicture() || Jouez(i).Caption() == MotJeter(Langue);
+      if (!àDonner) break;
+      Sys().Randomize(Sys().Timer());
+      tirée = Sys().RandomInt(static_cast<int>(TailleJeu));
+      // A card already out in this round, rejected ones included, is drawn anew.
+      bool sortie = false;
+      for (int k = 1; k <= 10; ++k)
+        if (CartesSorties(k) == tirée) sortie = true;
+      if (!sortie) {
+        distribuée = true;
+        break;
+      }
+    }
+    if (!distribuée) continue;
+    if (!AffichageImmédiat) AnimeCarte(i, false);
+    Deal(i).SetPicture(Cartes(tirée).GetPicture());
+    if (!AffichageImmédiat) AnimeCarte(i, true);
+    CartesTirage(i) = vb::CByte(tirée);
+    CartesSorties(NbTirées) = vb::CInt(tirée);
+  }
+
+  // 6-11. The hand, the advice, the panel.
+  for (int i = 0; i <= 4; ++i) MainTriée(i) = CartesTirage(i);
+  Résultat();
+  if (NbTirées == 10) AfficheFréquence();
+  GardeCartes();
+  Probabilités();
+  if (NbTirées == 5) Pointeur12();
+
+  // 12. The end of a round.
+  if (NbTirées == 10) {
+    const bool anglais = Anglais(Langue);
+    if (RangMain != 10) {
+      SSAlertes->SetCaption(
+          anglais ? QStringLiteral("QUIT to collect credits, DOUBLE to risk, PLAY to collect credits and play again.")
+                  : QStringLiteral("QUITTE pour encaisser, DOUBLE pour risquer, JOUER pour encaisser et rejouer."));
+    } else {
+      EffaceLigneGagnante();
+      Gains->SetCaption(QString());
+      AfficheGain();
+      const long long mise = static_cast<long long>(Niveau) * Mise;
+      if (Capital != 0 && mise <= Capital) {
+        Pointeur10();
+        SSAlertes->SetCaption(anglais
+                                  ? QStringLiteral("NEW DRAWING : Click on PLAY or press the 'Space' key.")
+                                  : QStringLiteral("NOUVEAU TIRAGE : Cliquez sur JOUER ou pressez la touche 'Space'."));
+      } else if (Capital != 0) {
+        Pointeur10();
+        SSAlertes->SetCaption(
+            anglais ? QStringLiteral("WARNING ! No more credit ! Bet back to 1.")
+                    : QStringLiteral("ATTENTION ! Vous n'avez plus assez de crédit. Mises ramenées à 1."));
+        Mise = 1;
+        Niveau = 1;
+        UnADouze->SetCaption(QStringLiteral("1"));
+        AfficheUnàDouze();
+        Mises->SetCaption(QStringLiteral("1"));
+        AfficheMise();
+        for (int i = 0; i <= 9; ++i) MainLabel(i).SetCaption(QString::number(TableGains(i)));
+      } else {
+        for (int i = 0; i <= 4; ++i) Jouez(i).SetVisible(false);
+        Pointeur12();
+        SSAlertes->SetCaption(
+            anglais ? QStringLiteral("No more credit ! Click on the icon up on the right handside of the screen for a "
+                                     "new game.")
+                    : QStringLiteral("Crédit épuisé ! Cliquez sur l'icône situé en haut à droite de l'écran pour une "
+                                     "nouvelle partie."));
+      }
+    }
+  }
+
+  // 13. A paying hand shows its value at either drawing; it is owed only after the second.
+  if (RangMain != 10) {
+    EffaceLigneGagnante();
+    GainMain = vb::CLng(static_cast<long long>(TableGains(RangMain)) * Mise);
+    Gains->SetCaption(QString::number(GainMain));
+    AfficheGain();
+    if (SSGains->Top() == 630) {
+      Maintitre(RangMain).SetForeColor(255);
+      MainLabel(RangMain).SetForeColor(255);
+      Maintitre(RangMain).SetBackColor(49344);
+      MainLabel(RangMain).SetBackColor(49344);
+    }
+  }
+
+  // 14. The round is over: the cards can no longer be acted on; a win offers the double-up.
+  if (NbTirées == 10) {
+    for (int i = 0; i <= 4; ++i) Deal(i).SetMousePointer(12);
+    if (RangMain != 10) {
+      for (int i = 0; i <= 4; ++i) Jouez(i).SetVisible(false);
+      Doubler->SetVisible(true);
+    }
+  }
+}
+
+// Turns down the cards to be replaced: the rejected ones, and at the start of a round every
+// card still face up.
+void JeuPoker::InitTirage() {
+  const QString jeter = MotJeter(Langue);
+  bool retournée = false;
+  for (int i = 0; i <= 4; ++i) {
+    if (Jouez(i).Caption() == jeter || (NbTirées == 0 && Deal(i).GetPicture() != Cartes(kDos).GetPicture())) {
+      retournée = true;
+      if (!AffichageImmédiat) AnimeCarte(i, false);
+      Deal(i).SetPicture(Cartes(kDos).GetPicture());
+      if (!AffichageImmédiat) AnimeCarte(i, true);
+    }
+  }
+  Sys().DoEvents();
+  // Without the animation the backs would not be seen at all.
+  if (AffichageImmédiat && retournée) Sys().Sleep(250);
+}
