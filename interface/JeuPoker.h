@@ -227,6 +227,15 @@ class JeuPoker : public QWidget {
   void AnimeCarte(int i, bool grow);
 
   // Additions of holds, automatic selection and double-up:
+  // Hold and reject words of the language in force.
+  QString MotCarteGardée() const;
+  QString MotCarteJetée() const;
+  // Turns Jouez(index) from held to rejected or back; any other caption counts as rejected.
+  void InverseJouez(int index);
+  // Marks position PositionsMain(i) to be kept.
+  void MarqueCarte(int i);
+  // Fills NomsValeurs with the card names of the language in force.
+  void RemplitNomsValeurs();
 
   // ---- 2D game ----------------------------------------------------------------------------
   void Tirage5();
@@ -326,6 +335,11 @@ class JeuPoker : public QWidget {
   void ClignoteAlertes();
   void ModifieLangue();
   // Additions of the digit displays, bets, pointers and alerts:
+  // The refusals shared by the bet buttons and their pointers: a double-up, the time between
+  // two drawings, a pending win, no credit.
+  bool MiseRefusée() const;
+  // After a change of Mise: the bet caption, its digits and the pay table's amounts.
+  void MiseChangée();
 
 
   // ---- Services ---------------------------------------------------------------------------
