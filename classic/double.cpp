@@ -119,8 +119,8 @@ void JeuPoker::Quitte1X5_Click() {
   if (AutoPlay->BevelWidth() == 0) return;
   for (int i = 0; i <= 4; ++i) Deal(i).SetMousePointer(12);
   Doubler->SetVisible(false);
-  // TODO(prob): restore the statistics panel at rest here (UnSur, PourcDéc, Pourcentages,
-  // Fractions for NbJokers) once the probability branch provides its routine.
+  // The statistics panel goes back to its figures at rest.
+  AfficheStatistiquesRepos();
   for (int i = 0; i <= 4; ++i) Jouez(i).SetVisible(true);
   InitPremierTirage();
   for (int i = 0; i <= 4; ++i) Deal(i).SetPicture(Cartes(54).GetPicture());

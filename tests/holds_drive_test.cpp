@@ -206,4 +206,35 @@ TEST(HoldsDrive, FrenchDuelMessages) {
                         "SSAlertes.Caption=QUITTE ! 7 de Pique est égal 7 de Trèfle. QUITTE, DOUBLE ou JOUER ?"}));
 }
 
+TEST(HoldsDrive, EveryClickFlipRecountsThePanelAndAKeyFlipDoesNot) {
+  Harness h;
+  // All five rejected: draws of five among the 49 cards left.
+  h.Drive({"click ParesseNon", "draw 0 14 28 42 5", "click Jouer"});
+  ASSERT_EQ(h.Drive1("get UnSur.Caption"), "UnSur.Caption=?/1906884");
+  EXPECT_EQ(h.Drive1("get Jouez(0).Caption"), "Jouez(0).Caption=REJECT");
+  // A click holds one card: four among 49.
+  EXPECT_EQ(Lines(h.Drive({"click Deal(0)", "get UnSur.Caption"})), "UnSur.Caption=?/211876");
+  // A key holds another, and the panel keeps the old figures.
+  EXPECT_EQ(Lines(h.Drive({"key 98", "get Jouez(1).Caption", "get UnSur.Caption"})),
+            Lines({"Jouez(1).Caption=HOLD", "UnSur.Caption=?/211876"}));
+  // The next click counts both: two among 49.
+  EXPECT_EQ(Lines(h.Drive({"click Deal(2)", "get UnSur.Caption"})), "UnSur.Caption=?/1176");
+  // And a flip back recounts again.
+  EXPECT_EQ(Lines(h.Drive({"click Deal(2)", "get UnSur.Caption"})), "UnSur.Caption=?/18424");
+}
+
+TEST(HoldsDrive, QuitteRestoresTheStatisticsPanelAtRest) {
+  Harness h;
+  h.form->RemplitStatistiques();  // the tables at rest, as at start-up
+  const QStringList atRest = h.Drive({"get UnSur.Caption", "get Fractions(0).Caption", "get Pourcentages(3).Caption",
+                                      "get PourcDéc(5).Caption", "get Fractions(0).BackColor"});
+  ASSERT_NE(atRest[1], "Fractions(0).Caption=");
+  h.Drive(kThreeKings);
+  EXPECT_EQ(Lines(h.Drive({"click Quitte1X5", "get UnSur.Caption", "get Fractions(0).Caption",
+                           "get Pourcentages(3).Caption", "get PourcDéc(5).Caption", "get Fractions(0).BackColor"})),
+            Lines(atRest));
+  EXPECT_EQ(Lines(h.Drive({"get UnSur.Caption", "get Fractions(0).BackColor"})),
+            Lines({"UnSur.Caption=?/3162510", "Fractions(0).BackColor=4210688"}));
+}
+
 }  // namespace

@@ -52,8 +52,8 @@ TEST(HoldsClick, FlippingTwiceReturnsToTheFirstWordAndColour) {
 TEST(HoldsClick, CaptionThatIsNeitherWordCountsAsNotHeld) {
   Harness h;
   JeuPoker& f = *h.form;
-  f.NbTirées = 5;
-  ASSERT_EQ(f.Jouez(0).Caption(), "JOUEZ");
+  BetweenDrawings(h);
+  f.Jouez(0).SetCaption("JOUEZ");
   h.Drive({"click Deal(0)"});
   EXPECT_EQ(f.Jouez(0).Caption(), "HOLD");
   EXPECT_EQ(f.Jouez(0).BackColor(), 0xC0C000);
