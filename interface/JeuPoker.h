@@ -227,6 +227,15 @@ class JeuPoker : public QWidget {
   void AnimeCarte(int i, bool grow);
 
   // Additions of holds, automatic selection and double-up:
+  // Hold and reject words of the language in force.
+  QString MotCarteGardée() const;
+  QString MotCarteJetée() const;
+  // Turns Jouez(index) from held to rejected or back; any other caption counts as rejected.
+  void InverseJouez(int index);
+  // Marks position PositionsMain(i) to be kept.
+  void MarqueCarte(int i);
+  // Fills NomsValeurs with the card names of the language in force.
+  void RemplitNomsValeurs();
 
   // ---- 2D game ----------------------------------------------------------------------------
   void Tirage5();
@@ -236,6 +245,80 @@ class JeuPoker : public QWidget {
   void AfficheFréquence();
 
   // Additions of the probability engine and statistics panel:
+  // A two-index table with bounds (R0..R1, C0..C1); the first index runs fastest.
+  template <class T, int R0, int R1, int C0, int C1>
+  class Tableau2 {
+   public:
+    static constexpr int Rows = R1 - R0 + 1;
+    static constexpr int Cols = C1 - C0 + 1;
+    T& operator()(long long r, long long c) { return items_[Offset(r, c)]; }
+    const T& operator()(long long r, long long c) const { return items_[Offset(r, c)]; }
+    void Fill(const T& v) { items_.fill(v); }
+
+   private:
+    static std::size_t Offset(long long r, long long c) {
+      if (r < R0 || r > R1 || c < C0 || c > C1) vb::RuntimeError(vb::SubscriptOutOfRange);
+      return static_cast<std::size_t>((r - R0) + Rows * (c - C0));
+    }
+    std::array<T, static_cast<std::size_t>(Rows * Cols)> items_{};
+  };
+
+  // Tables of held, rejected and remaining cards, rebuilt by every call of the driver.
+  Byte NbGardées = 0;
+  Byte NbRejetées = 0;
+  Byte NbJokersGardés = 0;
+  Byte JokersRestants = 0;
+  Byte NbMêmeCouleur = 0;
+  vb::Array<Byte, 0, 4> Gardées;
+  vb::Array<Byte, 0, 4> CouleursGardées;
+  vb::Array<Byte, 0, 4> RejetéesCodes;
+  vb::Array<Byte, 0, 12> GardéesValeur;
+  vb::Array<Byte, 0, 12> RejetéesValeur;
+  vb::Array<Byte, 0, 12> RestantsValeur;
+  vb::Array<Integer, 0, 12> RestantsParValeur;
+  Tableau2<Integer, 0, 12, 0, 3> RestantsGrille;        // (rank, suit)
+  Tableau2<Byte, 0, 12, 0, 3> RestantsCouleurValeur;    // (rank, suit): 1 deck, 2 held, 0 rejected
+  vb::Array<Long, 0, 11> Réalisations;
+  Long TotalTirages = 0;
+  bool ComplémentFait = false;  // a lower class was computed as a complement
+  bool CouleurPossible = false;
+  bool QuintePossible = false;
+  double TotalRoiOuAs = 0;
+  Tableau2<Integer, 0, 18, 0, 3> RestantsQF;  // (face position, suit)
+  Integer NbQF = 0;
+  Integer NbQFR = 0;
+
+  // The probability driver in two halves: the counting alone, then the panel's labels.
+  void CompteProbabilités();
+  void AfficheProbabilités();
+  void EffaceProbabilités();
+  // Counting routines, called by the driver in this order.
+  void ProbCouleur();
+  void ProbQuinte();
+  void ProbQF();
+  void QF0à2();
+  void QF3à4();
+  void ProbPoker();
+  void ProbCarré();
+  void ProbFull();
+  void ProbBrelan();
+  void ProbPaires2();
+  void ProbRoiOuAs();
+  void PairesQuintes0à2();
+  void PairesQuintes3à4();
+
+  // Statistics panel: the odds at rest (index 0..11, jokers 0..2) and the tally of hands.
+  Tableau2<Byte, 0, 11, 0, 2> MainsPossibles;
+  Tableau2<QString, 0, 11, 0, 2> TexteMainsPossibles;
+  Tableau2<QString, 0, 11, 0, 2> TextePourcentages;
+  vb::Array<Long, 0, 9> Fréquences;
+  // Fills the three tables at rest and shows them for NbJokers in rows 0..11 (start-up).
+  void RemplitStatistiques();
+  // Puts the panel at rest for NbJokers: head of the count column and rows 0..11 (row 9
+  // left alone without jokers), percentage and count columns back to their teal.
+  void AfficheStatistiquesRepos();
+  template <class T, int R0, int R1, int C0, int C1>
+  void BindTableau(const QString& name, Tableau2<T, R0, R1, C0, C1>& table);
 
   // ---- Interface ----------------------------------------------------------------------------
   void AfficheCapital();

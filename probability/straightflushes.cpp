@@ -1,0 +1,110 @@
+// Straight flushes and royal flushes: the natural cards of each suit by face position, and
+// the spans of five that the held cards and the draw can fill, suit by suit.
+#include "interface/JeuPoker.h"
+#include "probability/spans.h"
+
+namespace {
+// Adds the terms of one suit: the drawn ranks of a term are natural cards of the suit in
+// the deck, k jokers drawn weigh 1, J, 1 for k = 0, 1, 2.
+template <class Skip>
+void TermesCouleur(JeuPoker& f, int s, prob::RankSet tenues, int d, Skip&& saute, long long& qf, long long& qfr) {
+  const int J = f.JokersRestants;
+  prob::ForEachStraightTerm(tenues, d, J, [&](prob::RankSet u, int k) {
+    const prob::RankSet tirées = static_cast<prob::RankSet>(u & ~tenues);
+    if (saute(tirées, k)) return;
+    long long produit = k == 1 ? J : 1;
+    for (prob::RankSet m = tirées; m != 0 && produit != 0; m = static_cast<prob::RankSet>(m & (m - 1)))
+      produit *= f.RestantsQF(std::countr_zero(m) + 2, s);
+    if ((u & prob::kTopSpan) == u)
+      qfr += produit;
+    else
+      qf += produit;
+  });
+}
+
+prob::RankSet RangsTenus(JeuPoker& f) {
+  prob::RankSet tenues = 0;
+  for (int i = 0; i < f.NbGardées; ++i)
+    if (f.Gardées(i) < 52) tenues = static_cast<prob::RankSet>(tenues | (1u << f.Gardées(i)));
+  return tenues;
+}
+}  // namespace
+
+void JeuPoker::ProbQF() {
+  if (NbGardées == 5) {
+    if (RangMain == 7) Réalisations(7) = 1;
+    if (RangMain == 8) Réalisations(8) = 1;
+    return;
+  }
+  if (!QuintePossible || !CouleurPossible) return;
+  NbQF = 0;
+  NbQFR = 0;
+  for (int p = 2; p <= 14; ++p)
+    for (int s = 0; s <= 3; ++s) RestantsQF(p, s) = vb::CInt(RestantsGrille(p - 2, s) - JokersRestants);
+  for (int s = 0; s <= 3; ++s) {
+    RestantsQF(1, s) = RestantsQF(14, s);
+    for (int p = 15; p <= 18; ++p) RestantsQF(p, s) = RestantsQF(p - 13, s);
+  }
+  QF0à2();
+  QF3à4();
+  Réalisations(7) = NbQF;
+  Réalisations(8) = NbQFR;
+}
+
+void JeuPoker::QF0à2() {
+  if (NbGardées > 2) return;
+  const prob::RankSet tenues = RangsTenus(*this);
+  const int d = 5 - NbGardées;
+  const int J = JokersRestants;
+  long long qf = NbQF, qfr = NbQFR;
+  if (tenues == 0) {
+    // Nothing natural held: the four suits.
+    for (int s = 0; s <= 3; ++s)
+      TermesCouleur(
+          *this, s, 0, d, [](prob::RankSet, int) { return false; }, qf, qfr);
+  } else {
+    const int s = CouleursGardées(0);
+    const bool deux = NbGardées == 2 && NbJokersGardés == 0;
+    // The three and the four held: ace and two with a drawn joker is not counted.
+    const bool troisQuatre = deux && tenues == 0x0006;
+    TermesCouleur(
+        *this, s, tenues, d, [&](prob::RankSet tirées, int k) { return troisQuatre && k == 1 && tirées == 0x1001; }, qf,
+        qfr);
+    if (deux && J == 2) {
+      // Ten and queen held: the king with both jokers shows as a straight flush.
+      if (tenues == 0x0500) {
+        qfr -= RestantsQF(13, s);
+        qf += RestantsQF(13, s);
+      }
+      // Queen and ace held: the two read above the ace, with both jokers, counts as royal.
+      if (tenues == 0x1400) qfr += RestantsQF(15, s);
+    }
+  }
+  NbQF = vb::CInt(qf);
+  NbQFR = vb::CInt(qfr);
+}
+
+void JeuPoker::QF3à4() {
+  if (NbGardées < 3 || NbGardées > 4) return;
+  const prob::RankSet tenues = RangsTenus(*this);
+  const int d = 5 - NbGardées;
+  const int J = JokersRestants;
+  const int s = CouleursGardées(0);
+  long long qf = NbQF, qfr = NbQFR;
+  TermesCouleur(
+      *this, s, tenues, d, [](prob::RankSet, int) { return false; }, qf, qfr);
+  // Three natural cards a, a + 1, a + 3: the missing a + 2 with a drawn joker counts twice.
+  if (NbGardées == 3 && NbJokersGardés == 0 && J >= 1) {
+    for (int a = 0; a <= 9; ++a) {
+      if (tenues == static_cast<prob::RankSet>((1u << a) | (1u << (a + 1)) | (1u << (a + 3)))) {
+        const long long terme = static_cast<long long>(J) * RestantsQF(a + 4, s);
+        if (a >= 8)
+          qfr += terme;
+        else
+          qf += terme;
+      }
+    }
+  }
+  NbQF = vb::CInt(qf);
+  NbQFR = vb::CInt(qfr);
+}
