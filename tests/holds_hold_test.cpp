@@ -53,6 +53,8 @@ TEST(HoldsClick, CaptionThatIsNeitherWordCountsAsNotHeld) {
   Harness h;
   JeuPoker& f = *h.form;
   f.NbTirées = 5;
+  // A legal table (the panel's count runs after each click): two to six of clubs.
+  for (int i = 0; i < 5; ++i) f.CartesTirage(i) = f.ValeursMain(i) = static_cast<Byte>(i);
   ASSERT_EQ(f.Jouez(0).Caption(), "JOUEZ");
   h.Drive({"click Deal(0)"});
   EXPECT_EQ(f.Jouez(0).Caption(), "HOLD");
