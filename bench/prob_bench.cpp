@@ -121,6 +121,62 @@ void Enumeration(benchmark::State& state) {
   state.SetLabel(s.name);
 }
 
+// One call for each of the 32 hold sets of a table with two jokers in the game: the
+// average call over every shape a player can make of it.
+const std::array<int, 5> kTable = {0, 16, 31, 46, 9};
+
+void CountingAllHoldSets(benchmark::State& state) {
+  JeuPoker& f = Form();
+  std::array<Shape, 32> shapes;
+  for (int h = 0; h < 32; ++h) shapes[static_cast<std::size_t>(h)] = {"all", kTable, 2, h};
+  Lay(f, shapes[0]);
+  for (auto _ : state) {
+    for (const Shape& s : shapes) {
+      for (int i = 0; i < 5; ++i) f.Jouez(i).SetCaption((s.holds >> i & 1) ? "HOLD" : "REJECT");
+      f.CompteProbabilités();
+      benchmark::DoNotOptimize(f.Réalisations(10));
+    }
+  }
+  state.SetItemsProcessed(state.iterations() * 32);
+}
+
+void EnumerationAllHoldSets(benchmark::State& state) {
+  JeuPoker& f = Form();
+  Lay(f, {"all", kTable, 2, 0});
+  f.NbTirées = 10;
+  std::vector<int> deck;
+  for (int c = 0; c < 54; ++c)
+    if (std::find(kTable.begin(), kTable.end(), c) == kTable.end()) deck.push_back(c);
+  const int n = static_cast<int>(deck.size());
+  for (auto _ : state) {
+    std::array<long long, 11> counts{};
+    for (int holds = 0; holds < 32; ++holds) {
+      std::vector<int> held;
+      for (int i = 0; i < 5; ++i)
+        if (holds >> i & 1) held.push_back(kTable[static_cast<std::size_t>(i)]);
+      const int d = 5 - static_cast<int>(held.size());
+      std::vector<int> idx(static_cast<std::size_t>(d));
+      for (int i = 0; i < d; ++i) idx[static_cast<std::size_t>(i)] = i;
+      while (true) {
+        int k = 0;
+        for (int h : held) f.MainTriée(k++) = static_cast<Byte>(h);
+        for (int i = 0; i < d; ++i)
+          f.MainTriée(k++) = static_cast<Byte>(deck[static_cast<std::size_t>(idx[static_cast<std::size_t>(i)])]);
+        f.Résultat();
+        ++counts[f.RangMain];
+        int i = d - 1;
+        while (i >= 0 && idx[static_cast<std::size_t>(i)] == n - d + i) --i;
+        if (i < 0) break;
+        ++idx[static_cast<std::size_t>(i)];
+        for (int j = i + 1; j < d; ++j) idx[static_cast<std::size_t>(j)] = idx[static_cast<std::size_t>(j - 1)] + 1;
+      }
+    }
+    benchmark::DoNotOptimize(counts);
+  }
+  f.NbTirées = 5;
+  state.SetItemsProcessed(state.iterations() * 32);
+}
+
 void Shapes(benchmark::internal::Benchmark* b) {
   for (int i = 0; i < static_cast<int>(std::size(kShapes)); ++i) b->Arg(i);
 }
@@ -131,6 +187,13 @@ BENCHMARK(Counting)->Apply(Shapes)->Repetitions(5)->ReportAggregatesOnly(true);
 BENCHMARK(CountingWithLabels)->Apply(Shapes)->Repetitions(5)->ReportAggregatesOnly(true);
 BENCHMARK(Enumeration)
     ->Apply(Shapes)
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(1)
+    ->Repetitions(3)
+    ->ReportAggregatesOnly(true);
+
+BENCHMARK(CountingAllHoldSets)->Repetitions(5)->ReportAggregatesOnly(true);
+BENCHMARK(EnumerationAllHoldSets)
     ->Unit(benchmark::kMillisecond)
     ->Iterations(1)
     ->Repetitions(3)

@@ -85,6 +85,14 @@ TEST_F(ProbFigures, RejectedJoker53CountsUnderRankOne) {
   EXPECT_EQ(F().JokersRestants, 1);
 }
 
+TEST_F(ProbFigures, RejectedJokerLeavesTheDeckButNotTheNumberOfCardsDrawnFrom) {
+  Lay(F(), {kJ1, C(4, kClubs), C(6, kClubs), C(8, kDiamonds), C(9, kHearts)}, 2, 0);
+  EXPECT_EQ(F().JokersRestants, 1);
+  EXPECT_EQ(F().TotalTirages, 1906884);  // still five among TailleJeu - 5 = 49
+  EXPECT_EQ(F().RestantsValeur(3), 5);   // four fives and the one joker left
+  EXPECT_EQ(F().RestantsGrille(3, kClubs), 2);
+}
+
 TEST_F(ProbFigures, FiveHeldAreTheRawCodesInTableOrder) {
   const Cards table = {C(9, kSpades), C(2, kClubs), kJ1, C(7, kHearts), C(0, kDiamonds)};
   Lay(F(), table, 1, 0b11111);
