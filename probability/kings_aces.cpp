@@ -149,15 +149,15 @@ namespace {
 // suit in which the hand would be a straight flush (already taken off with the flushes)
 // the weight goes back on. `remet` false skips the putting back.
 void Retire(JeuPoker& f, int masque, int tenues, long long poids, bool remet) {
+  const int tirées = masque & ~tenues;
   long long produit = poids;
-  for (int r = 0; r <= 12; ++r)
-    if ((masque >> r & 1) && !(tenues >> r & 1)) produit *= f.RestantsParValeur(r);
+  for (int m = tirées; m != 0; m &= m - 1) produit *= f.RestantsParValeur(std::countr_zero(static_cast<unsigned>(m)));
   f.TotalRoiOuAs -= static_cast<double>(produit);
   if (!remet) return;
   for (int s = 0; s <= 3; ++s) {
     bool quinteFlush = true;
-    for (int r = 0; r <= 12 && quinteFlush; ++r) {
-      if (!(masque >> r & 1)) continue;
+    for (int m = masque; m != 0 && quinteFlush; m &= m - 1) {
+      const int r = std::countr_zero(static_cast<unsigned>(m));
       const int voulu = (tenues >> r & 1) ? 2 : 1;
       if (f.RestantsCouleurValeur(r, s) != voulu) quinteFlush = false;
     }

@@ -1,20 +1,30 @@
 // Straight flushes and royal flushes: the natural cards of each suit by face position, and
 // the spans of five that the held cards and the draw can fill, suit by suit.
+#include <array>
+
 #include "interface/JeuPoker.h"
 #include "probability/spans.h"
 
 namespace {
-// Adds the terms of one suit: the drawn ranks of a term are natural cards of the suit in
-// the deck, k jokers drawn weigh 1, J, 1 for k = 0, 1, 2.
+// Adds the terms of the given suits: the drawn ranks of a term are natural cards of the
+// suit, each in the deck (1) or not (0), and k jokers drawn weigh 1, J, 1 for k = 0, 1, 2.
 template <class Skip>
-void TermesCouleur(JeuPoker& f, int s, prob::RankSet tenues, int d, Skip&& saute, long long& qf, long long& qfr) {
+void TermesCouleurs(JeuPoker& f, int premier, int dernier, prob::RankSet tenues, int d, Skip&& saute, long long& qf,
+                    long long& qfr) {
   const int J = f.JokersRestants;
+  std::array<prob::RankSet, 4> dansLeJeu{};
+  for (int s = premier; s <= dernier; ++s)
+    for (int p = 2; p <= 14; ++p)
+      if (f.RestantsQF(p, s) > 0)
+        dansLeJeu[static_cast<std::size_t>(s)] =
+            static_cast<prob::RankSet>(dansLeJeu[static_cast<std::size_t>(s)] | (1u << (p - 2)));
   prob::ForEachStraightTerm(tenues, d, J, [&](prob::RankSet u, int k) {
     const prob::RankSet tirées = static_cast<prob::RankSet>(u & ~tenues);
     if (saute(tirées, k)) return;
-    long long produit = k == 1 ? J : 1;
-    for (prob::RankSet m = tirées; m != 0 && produit != 0; m = static_cast<prob::RankSet>(m & (m - 1)))
-      produit *= f.RestantsQF(std::countr_zero(m) + 2, s);
+    const long long poids = k == 1 ? J : 1;
+    long long produit = 0;
+    for (int s = premier; s <= dernier; ++s)
+      if ((tirées & ~dansLeJeu[static_cast<std::size_t>(s)]) == 0) produit += poids;
     if ((u & prob::kTopSpan) == u)
       qfr += produit;
     else
@@ -59,17 +69,16 @@ void JeuPoker::QF0à2() {
   long long qf = NbQF, qfr = NbQFR;
   if (tenues == 0) {
     // Nothing natural held: the four suits.
-    for (int s = 0; s <= 3; ++s)
-      TermesCouleur(
-          *this, s, 0, d, [](prob::RankSet, int) { return false; }, qf, qfr);
+    TermesCouleurs(
+        *this, 0, 3, 0, d, [](prob::RankSet, int) { return false; }, qf, qfr);
   } else {
     const int s = CouleursGardées(0);
     const bool deux = NbGardées == 2 && NbJokersGardés == 0;
     // The three and the four held: ace and two with a drawn joker is not counted.
     const bool troisQuatre = deux && tenues == 0x0006;
-    TermesCouleur(
-        *this, s, tenues, d, [&](prob::RankSet tirées, int k) { return troisQuatre && k == 1 && tirées == 0x1001; }, qf,
-        qfr);
+    TermesCouleurs(
+        *this, s, s, tenues, d, [&](prob::RankSet tirées, int k) { return troisQuatre && k == 1 && tirées == 0x1001; },
+        qf, qfr);
     if (deux && J == 2) {
       // Ten and queen held: the king with both jokers shows as a straight flush.
       if (tenues == 0x0500) {
@@ -91,8 +100,8 @@ void JeuPoker::QF3à4() {
   const int J = JokersRestants;
   const int s = CouleursGardées(0);
   long long qf = NbQF, qfr = NbQFR;
-  TermesCouleur(
-      *this, s, tenues, d, [](prob::RankSet, int) { return false; }, qf, qfr);
+  TermesCouleurs(
+      *this, s, s, tenues, d, [](prob::RankSet, int) { return false; }, qf, qfr);
   // Three natural cards a, a + 1, a + 3: the missing a + 2 with a drawn joker counts twice.
   if (NbGardées == 3 && NbJokersGardés == 0 && J >= 1) {
     for (int a = 0; a <= 9; ++a) {

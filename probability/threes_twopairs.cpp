@@ -1,6 +1,8 @@
 // Three of a kind and two pairs. A kicker is always a natural card; a three of a kind of
 // two jokers and three different natural cards can also be a straight or a flush, which
 // the three of a kind count then gives back.
+#include <algorithm>
+#include <array>
 #include <bit>
 #include <cmath>
 #include <vector>
@@ -267,26 +269,41 @@ void JeuPoker::ProbBrelan() {
 
   prob::RankSet tenues = 0;
   for (int r : rangs) tenues = static_cast<prob::RankSet>(tenues | (1u << r));
-  auto retire = [&](prob::RankSet s, long long fois) {
-    long long produit = fois;
-    for (int r = 0; r <= 12; ++r)
-      if ((s >> r & 1) && !(tenues >> r & 1)) produit *= P(r);
-    TotalRoiOuAs -= static_cast<double>(produit);
-    for (int c = 0; c <= 3; ++c) {
-      bool quinteFlush = true;
-      for (int r = 0; r <= 12 && quinteFlush; ++r) {
-        if (!(s >> r & 1)) continue;
-        if (RestantsCouleurValeur(r, c) != ((tenues >> r & 1) ? 2 : 1)) quinteFlush = false;
-      }
-      if (quinteFlush) TotalRoiOuAs += static_cast<double>(fois);
+  // Cards of each suit in the deck and held, as rank sets, for the straight flush test.
+  std::array<prob::RankSet, 4> dansLeJeu{}, enMain{};
+  for (int c = 0; c <= 3; ++c)
+    for (int r = 0; r <= 12; ++r) {
+      if (RestantsCouleurValeur(r, c) == 1)
+        dansLeJeu[static_cast<std::size_t>(c)] |= static_cast<prob::RankSet>(1u << r);
+      if (RestantsCouleurValeur(r, c) == 2) enMain[static_cast<std::size_t>(c)] |= static_cast<prob::RankSet>(1u << r);
     }
+  std::array<long long, 13> p{};
+  for (int r = 0; r <= 12; ++r) p[static_cast<std::size_t>(r)] = P(r);
+  auto retire = [&](prob::RankSet s, long long fois) {
+    const prob::RankSet tirées = static_cast<prob::RankSet>(s & ~tenues);
+    long long produit = fois;
+    for (prob::RankSet m = tirées; m != 0; m = static_cast<prob::RankSet>(m & (m - 1)))
+      produit *= p[static_cast<std::size_t>(std::countr_zero(m))];
+    TotalRoiOuAs -= static_cast<double>(produit);
+    for (std::size_t c = 0; c <= 3; ++c)
+      if ((tirées & ~dansLeJeu[c]) == 0 && (tenues & ~enMain[c]) == 0) TotalRoiOuAs += static_cast<double>(fois);
   };
   if (n == 0) {
-    for (prob::RankSet run : kRuns)
-      for (prob::RankSet s = run;; s = static_cast<prob::RankSet>((s - 1) & run)) {
-        if (std::popcount(s) == 3) retire(s, 1);
-        if (s == 0) break;
-      }
+    // Every three ranks of every run, once for each run that holds them.
+    static const std::vector<std::pair<prob::RankSet, int>> trios = [] {
+      std::vector<std::pair<prob::RankSet, int>> t;
+      for (prob::RankSet run : kRuns)
+        for (prob::RankSet s = run; s != 0; s = static_cast<prob::RankSet>((s - 1) & run)) {
+          if (std::popcount(s) != 3) continue;
+          auto it = std::find_if(t.begin(), t.end(), [s](const auto& e) { return e.first == s; });
+          if (it == t.end())
+            t.push_back({s, 1});
+          else
+            ++it->second;
+        }
+      return t;
+    }();
+    for (const auto& [s, fois] : trios) retire(s, fois);
   } else if (n == 1) {
     const int a = rangs[0];
     for (const Entrée& e : ListeUnRang(a))
