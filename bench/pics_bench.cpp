@@ -78,19 +78,10 @@ BENCHMARK(BM_BuildPictures)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 }  // namespace
 
-int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM",
-          qgetenv("QT_QPA_PLATFORM").isEmpty() ? QByteArray("offscreen") : qgetenv("QT_QPA_PLATFORM"));
-  QApplication app(argc, argv);
-  // The first form of the process pays for the deck's parse and the fonts' loading.
-  {
-    QTemporaryDir dir;
-    JeuPoker form(dir.path());
-    std::printf("first BuildPictures of the process: %.1f ms (%.1f ms of this thread's processor time)\n",
-                pics::LastBuildTime().wall * 1000, pics::LastBuildTime().cpu * 1000);
-  }
-  benchmark::Initialize(&argc, argv);
-  benchmark::RunSpecifiedBenchmarks();
-  benchmark::Shutdown();
-  return 0;
+// The first form of the process pays for the deck's parse and the fonts' loading.
+void ReportFirstBuildPictures() {
+  QTemporaryDir dir;
+  JeuPoker form(dir.path());
+  std::printf("first BuildPictures of the process: %.1f ms (%.1f ms of this thread's processor time)\n",
+              pics::LastBuildTime().wall * 1000, pics::LastBuildTime().cpu * 1000);
 }

@@ -198,5 +198,3 @@ BENCHMARK(EnumerationAllHoldSets)
     ->Iterations(1)
     ->Repetitions(3)
     ->ReportAggregatesOnly(true);
-
-BENCHMARK_MAIN();

@@ -260,7 +260,7 @@ class JeuPoker : public QWidget {
       if (r < R0 || r > R1 || c < C0 || c > C1) vb::RuntimeError(vb::SubscriptOutOfRange);
       return static_cast<std::size_t>((r - R0) + Rows * (c - C0));
     }
-    std::array<T, static_cast<std::size_t>(Rows * Cols)> items_{};
+    std::array<T, static_cast<std::size_t>(Rows* Cols)> items_{};
   };
 
   // Tables of held, rejected and remaining cards, rebuilt by every call of the driver.
@@ -276,8 +276,8 @@ class JeuPoker : public QWidget {
   vb::Array<Byte, 0, 12> RejetéesValeur;
   vb::Array<Byte, 0, 12> RestantsValeur;
   vb::Array<Integer, 0, 12> RestantsParValeur;
-  Tableau2<Integer, 0, 12, 0, 3> RestantsGrille;        // (rank, suit)
-  Tableau2<Byte, 0, 12, 0, 3> RestantsCouleurValeur;    // (rank, suit): 1 deck, 2 held, 0 rejected
+  Tableau2<Integer, 0, 12, 0, 3> RestantsGrille;      // (rank, suit)
+  Tableau2<Byte, 0, 12, 0, 3> RestantsCouleurValeur;  // (rank, suit): 1 deck, 2 held, 0 rejected
   vb::Array<Long, 0, 11> Réalisations;
   Long TotalTirages = 0;
   bool ComplémentFait = false;  // a lower class was computed as a complement

@@ -53,7 +53,7 @@ void JeuPoker::Form_Load() {
   });
   // 11.
   AffichageImmédiat = true;
-  // 12. The hint table (language issue).
+  // 12. The hint table comes with the hints.
   // 13. The deck and a new game.
   vb::SkipOnError([&] {
     NbJokers = 2;
@@ -62,7 +62,8 @@ void JeuPoker::Form_Load() {
   });
   // 14. Show the form.
   vb::SkipOnError([&] { show(); });
-  // 15. The statistics tables and the panel at rest (statistics panel).
+  // 15. The statistics tables, and the panel at rest for the deck in force.
+  vb::SkipOnError([&] { RemplitStatistiques(); });
   // 16. The music (music issue).
   vb::SkipOnError([&] { Tirage->SetFocus(); });
 }

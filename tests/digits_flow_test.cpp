@@ -8,6 +8,8 @@ Picture Modèle(Harness& h, int i) { return h.form->ChiffresModèle(i).GetPictur
 
 // Two, four, six, seven and jack of mixed suits: a hand that pays nothing.
 const QString kRien = QStringLiteral("draw 0 2 17 31 48");
+// Both drawings of a round that pays nothing: 2 4 6 7 J, all rejected, then 3 5 7 8 Q.
+const QString kRienDeuxFois = QStringLiteral("draw 0 2 17 31 48 1 3 18 32 49");
 }  // namespace
 
 TEST(DigitsFlow, ANewGameShowsTheCreditTheBetAndTheLevel) {
@@ -57,7 +59,7 @@ TEST(DigitsFlow, TheLastCreditLostEndsTheGameAndBlocksTheBet) {
   auto& f = *h.form;
   f.Capital = 1;
   f.AfficheCapital();
-  h.Drive({kRien, "click Jouer", "click Jouer"});
+  h.Drive({kRienDeuxFois, "click Jouer", "click Jouer"});
   ASSERT_EQ(f.NbTirées, 10);
   ASSERT_EQ(f.Capital, 0);
   EXPECT_EQ(f.CapImage(0).Left(), 960);
@@ -80,7 +82,7 @@ TEST(DigitsFlow, AutomaticModeIsPutAtRestWhenTheCreditRunsOut) {
   f.AutoPlay->SetBackColor(6645093);
   f.AutoPlayStop->SetBevelWidth(3);
   f.AutoPlayTimer->SetEnabled(true);
-  h.Drive({kRien});
+  h.Drive({kRienDeuxFois});
   f.Tirage1();
   EXPECT_EQ(f.AutoPlay->BevelWidth(), 0);
   f.Tirage1();

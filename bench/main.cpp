@@ -1,0 +1,16 @@
+// The benchmarks' entry point: one QApplication (offscreen unless told otherwise) for all.
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+
+void ReportFirstBuildPictures();
+
+int main(int argc, char** argv) {
+  if (qgetenv("QT_QPA_PLATFORM").isEmpty()) qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication app(argc, argv);
+  ReportFirstBuildPictures();
+  benchmark::Initialize(&argc, argv);
+  benchmark::RunSpecifiedBenchmarks();
+  benchmark::Shutdown();
+  return 0;
+}
