@@ -130,6 +130,11 @@ void Driver::Execute(const QString& rawLine) {
     out_(QStringLiteral("slept=%1").arg(platform_.sleptMs));
   } else if (cmd == "file") {
     File(rest);
+  } else if (cmd == "shot") {
+    // A picture of the window as the player sees it, as PNG.
+    if (rest.isEmpty()) return Error(QStringLiteral("shot takes a file name"));
+    const QString path = startDirectory.isEmpty() ? rest : QDir(startDirectory).absoluteFilePath(rest);
+    if (!form_.grab().save(path, "PNG")) Error(QStringLiteral("%1 cannot be written").arg(rest));
   } else if (cmd == "close") {
     form_.close();
   } else {

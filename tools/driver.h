@@ -14,6 +14,8 @@ class Driver {
   Driver(JeuPoker& form, ScriptedPlatform& platform, std::function<void(const QString&)> out);
   // Runs one command line.
   void Execute(const QString& line);
+  // Relative file names of `shot` are taken from this directory (where the tool started).
+  QString startDirectory;
 
  private:
   void Click(const QString& target);

@@ -49,6 +49,7 @@ int main(int argc, char** argv) {
       return 2;
     }
   }
+  const QString startDirectory = QDir::currentPath();
   QTemporaryDir temp;
   if (dir.isEmpty()) {
     if (!temp.isValid()) {
@@ -76,6 +77,7 @@ int main(int argc, char** argv) {
   QCoreApplication::processEvents();
 
   Driver driver(form, platform, Print);
+  driver.startDirectory = startDirectory;
   std::string line;
   while (std::getline(std::cin, line)) {
     driver.Execute(QString::fromStdString(line));
