@@ -172,3 +172,62 @@ TEST(Startup, FinSavesNothing) {
   EXPECT_TRUE(h.ended);
   EXPECT_EQ(ReadFile(h.dir.filePath("Ini.dat")).size(), 0);
 }
+
+TEST(Startup, StoredEnglishGivesEnglishAlertsHoldWordsAndCardNames) {
+  const QByteArray en("\x02", 1);
+  Started s(&en);
+  auto& f = *s.h.form;
+  EXPECT_EQ(f.Langue, 2);
+  EXPECT_EQ(f.SSAlertes->Caption(), "FIRST DRAWING : Click on PLAY or press the 'Space' key.");
+  EXPECT_EQ(f.NomsValeurs(12), "ACE of Clubs");
+  s.h.Drive({"draw 0 14 28 42 5", "click Jouer"});
+  EXPECT_TRUE(f.Jouez(0).Caption() == "HOLD" || f.Jouez(0).Caption() == "REJECT");
+}
+
+TEST(Startup, StoredFrenchGivesFrenchAlertsHoldWordsAndCardNames) {
+  const QByteArray fr("\x03", 1);
+  Started s(&fr);
+  auto& f = *s.h.form;
+  EXPECT_EQ(f.Langue, 3);
+  EXPECT_EQ(f.SSAlertes->Caption(), "PREMIER TIRAGE : Cliquez sur JOUER ou pressez la touche 'Space'.");
+  EXPECT_EQ(f.NomsValeurs(12), QString::fromUtf8("AS de Trèfle"));
+  s.h.Drive({"draw 0 14 28 42 5", "click Jouer"});
+  EXPECT_TRUE(f.Jouez(0).Caption() == "GARDER" || f.Jouez(0).Caption() == "JETER");
+}
+
+TEST(Startup, NoStoredByteGivesFrenchCaptionsWithEnglishAlertsAndFrenchPlayFace) {
+  Harness h;
+  auto& f = *h.form;
+  EXPECT_EQ(f.Langue, 0);
+  EXPECT_EQ(f.MainsPayantes->Caption(), "MAINS PAYANTES");
+  EXPECT_EQ(f.Jouez(0).Caption(), "JOUEZ");
+  EXPECT_EQ(f.SSAlertes->Caption(), "FIRST DRAWING : Click on PLAY or press the 'Space' key.");
+  EXPECT_EQ(f.JouerImage(0).GetPicture(), f.JouerImage(1).GetPicture());
+  h.Drive({"draw 0 14 28 42 5", "click Jouer"});
+  EXPECT_TRUE(f.Jouez(0).Caption() == "HOLD" || f.Jouez(0).Caption() == "REJECT");
+  // The PLAY face stays French: only a stored 2 gives the English face.
+  EXPECT_EQ(f.JouerImage(0).GetPicture(), f.JouerImage(1).GetPicture());
+}
+
+TEST(Startup, StatisticsPanelIsAtRestForTwoJokers) {
+  Harness h;
+  EXPECT_EQ(h.form->UnSur->Caption(), "?/3162510");
+  EXPECT_FALSE(h.form->Fractions(0).Caption().isEmpty());
+}
+
+TEST(Focus, TirageKeepsTheFocusAfterEveryClick) {
+  Harness h;
+  auto& f = *h.form;
+  const QStringList clicks = {"click Jouer",       "click Deal(0)",    "click Deal(4)",    "click Plus",
+                              "click Moins",       "click Jouer",      "click ParesseNon", "click ParesseOui",
+                              "click SSLangue(0)", "click SSLangue(1)"};
+  h.Drive({"draw 0 14 28 42 5"});
+  for (const auto& c : clicks) {
+    h.Drive({c});
+    EXPECT_EQ(f.focusWidget(), f.Tirage) << c.toStdString();
+  }
+  // And Space still plays.
+  const int before = f.NbTirées;
+  h.Drive({"key 32"});
+  EXPECT_NE(f.NbTirées, before);
+}
