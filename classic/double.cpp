@@ -91,13 +91,7 @@ void JeuPoker::ChoixCarteQouD() {
       // Unlike the same case at the end of a drawing, the pointers are left as they are.
       SSAlertes->SetCaption(english ? QStringLiteral("YOU LOST ! WARNING ! No more credit ! Bet back to 1.")
                                     : QStringLiteral("PERDU ! ATTENTION ! Pas assez de crédit. Mises ramenées à 1."));
-      Mise = 1;
-      Niveau = 1;
-      UnADouze->SetCaption(QStringLiteral("1"));
-      AfficheUnàDouze();
-      Mises->SetCaption(QStringLiteral("1"));
-      AfficheMise();
-      for (int i = 0; i <= 9; ++i) MainLabel(i).SetCaption(QString::number(TableGains(i)));
+      RemetMiseÀUn();
     } else {
       Pointeur12();
       SSAlertes->SetCaption(

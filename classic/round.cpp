@@ -144,13 +144,7 @@ void JeuPoker::Tirage1() {
         SSAlertes->SetCaption(
             anglais ? QStringLiteral("WARNING ! No more credit ! Bet back to 1.")
                     : QStringLiteral("ATTENTION ! Vous n'avez plus assez de crédit. Mises ramenées à 1."));
-        Mise = 1;
-        Niveau = 1;
-        UnADouze->SetCaption(QStringLiteral("1"));
-        AfficheUnàDouze();
-        Mises->SetCaption(QStringLiteral("1"));
-        AfficheMise();
-        for (int i = 0; i <= 9; ++i) MainLabel(i).SetCaption(QString::number(TableGains(i)));
+        RemetMiseÀUn();
       } else {
         for (int i = 0; i <= 4; ++i) Jouez(i).SetVisible(false);
         Pointeur12();
@@ -203,4 +197,15 @@ void JeuPoker::InitTirage() {
   Sys().DoEvents();
   // Without the animation the backs would not be seen at all.
   if (AffichageImmédiat && retournée) Sys().Sleep(250);
+}
+
+// The bet and the level back to 1, with their displays and the pay table.
+void JeuPoker::RemetMiseÀUn() {
+  Mise = 1;
+  Niveau = 1;
+  UnADouze->SetCaption(QStringLiteral("1"));
+  AfficheUnàDouze();
+  Mises->SetCaption(QStringLiteral("1"));
+  AfficheMise();
+  for (int i = 0; i <= 9; ++i) MainLabel(i).SetCaption(QString::number(TableGains(i)));
 }

@@ -219,6 +219,7 @@ class JeuPoker : public QWidget {
   void ChoixCarteQouD();
 
   // Additions of the classic round (state, Résultat, draw cycle):
+  void RemetMiseÀUn();
   // Fills TableGains for NbJokers (the classic pay table).
   void RemplitTableGains();
   // Puts the highlighted row of the pay table back to white on black.
