@@ -1,17 +1,8 @@
 #include "tests/harness.h"
 
-#include <gtest/gtest.h>
-
 #include <QDirIterator>
 
 #include "interface/controls.h"
-
-// Death tests re-run the binary for their one test instead of forking this process: a fork
-// would inherit Qt's worker threads (painting, picture rendering) without their threads.
-static const bool kThreadsafeDeathTests = [] {
-  GTEST_FLAG_SET(death_test_style, "threadsafe");
-  return true;
-}();
 
 QApplication& TestApp() {
   static int argc = 1;
