@@ -15,6 +15,9 @@ JeuPoker::JeuPoker(const QString& programDir) : programDir_(programDir) {
   QPalette pal = palette();
   pal.setColor(QPalette::Window, Qt::black);
   setPalette(pal);
+  // The card faces take longest: they render on a worker while the controls are built.
+  const qreal dpr = qGuiApp ? qGuiApp->devicePixelRatio() : 1.0;
+  cardsInFlight_ = pics::RenderCards(QSize(88, 133), 55, QSize(65, 87), 54, dpr);
   BuildControls();
   BuildPictures();
   WireEvents();

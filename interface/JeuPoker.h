@@ -10,11 +10,13 @@
 #include <QStringList>
 #include <QWidget>
 #include <functional>
+#include <future>
 #include <memory>
 #include <vector>
 
 #include "core/vb.h"
 #include "interface/controls.h"
+#include "interface/pictures_art.h"
 
 class JeuPoker : public QWidget {
  public:
@@ -393,5 +395,6 @@ class JeuPoker : public QWidget {
   QHash<QString, int> arrayLow_;
   QHash<QString, TimerControl*> timers_;
   std::vector<std::unique_ptr<StoredPicture>> pictures_;
+  std::future<pics::CardImages> cardsInFlight_;  // card faces rendering while the form is built
   QHash<QString, Variable> variables_;
 };

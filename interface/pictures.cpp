@@ -20,8 +20,11 @@ void JeuPoker::BuildPictures() {
   const double cpuStart = pics::ThreadCpuSeconds();
   // Rendered at the density of the sharpest screen, shown at the controls' own sizes.
   const qreal dpr = qGuiApp ? qGuiApp->devicePixelRatio() : 1.0;
-  // The cards render on a worker thread while the other pictures are drawn here.
-  auto cards = pics::RenderCards(Cartes(0).size(), Cartes.High() + 1, Cartes2(0).size(), Cartes2.High() + 1, dpr);
+  // The cards render on a worker thread, started before the controls were built, while the
+  // other pictures are drawn here.
+  auto cards = std::move(cardsInFlight_);
+  if (!cards.valid())
+    cards = pics::RenderCards(Cartes(0).size(), Cartes.High() + 1, Cartes2(0).size(), Cartes2.High() + 1, dpr);
   // A control gets a picture of its own, named after it.
   auto own = [&](Control& c, const QPixmap& pixmap) {
     Picture p = StorePicture(c.FullName(), pixmap);
