@@ -126,6 +126,7 @@ void JeuPoker::ProbPaires2() {
 }
 
 void JeuPoker::ProbBrelan() {
+  TotalRoiOuAs = 0;
   const int H = NbGardées;
   if (H == 5) {
     if (RangMain == 2) Réalisations(2) = 1;

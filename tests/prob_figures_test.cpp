@@ -647,6 +647,15 @@ TEST_F(ProbFigures, TwoJokersWithoutStraightsKeepTheFlushesInThreeOfAKind) {
   EXPECT_EQ(R(2), r2);
 }
 
+TEST_F(ProbFigures, FiveHeldStartThreeOfAKindFromAZeroTotal) {
+  JeuPoker& f = F();
+  const Cards table = {C(3, kClubs), C(4, kHearts), C(9, kDiamonds), C(6, kClubs), C(0, kSpades)};
+  Lay(f, table, 2, 0b00001);
+  ASSERT_NE(f.TotalRoiOuAs, 0);
+  Lay(f, table, 2, 0b11111);
+  EXPECT_EQ(f.TotalRoiOuAs, 0);
+}
+
 TEST_F(ProbFigures, TwoPairsNeedNoJokerNoFourRanksNoThreeOfARank) {
   Lay(F(), {kJ1, C(4, kHearts), C(11, kDiamonds), C(12, kSpades), C(1, kSpades)}, 1, 0b00011);
   EXPECT_EQ(R(1), 0);
