@@ -59,6 +59,12 @@ void JeuPoker::Jouer_Click() {
   if (SSAireJeu5->Visible()) Tirage5();
 }
 
+void JeuPoker::Jouez_Click(int) { Tirage->SetFocus(); }
+
+void JeuPoker::SSTirage_Click() { Tirage->SetFocus(); }
+
+void JeuPoker::Doubler_Click() { Tirage->SetFocus(); }
+
 // ---- One drawing -----------------------------------------------------------------------
 
 void JeuPoker::AnimeCarte(int i, bool grow) {

@@ -50,6 +50,9 @@ void JeuPoker::WireEvents() {
   Tirage->KeyDown = [this](int k, int s) { Tirage_KeyDown(k, s); };
   Tirage->KeyUp = [this](int k, int s) { Tirage_KeyUp(k, s); };
   for (int i = 0; i <= 4; ++i) Deal(i).Click = [this, i] { Deal_Click(i); };
+  for (int i = 0; i <= 4; ++i) Jouez(i).Click = [this, i] { Jouez_Click(i); };
+  SSTirage->Click = [this] { SSTirage_Click(); };
+  Doubler->Click = [this] { Doubler_Click(); };
   Plus->Click = [this] { Plus_Click(); };
   Moins->Click = [this] { Moins_Click(); };
   Plus->MouseMove = [this](int b, int s, int x, int y) { Plus_MouseMove(b, s, x, y); };

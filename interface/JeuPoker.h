@@ -208,6 +208,11 @@ class JeuPoker : public QWidget {
   void Jouer_MouseUp(int button, int shift, int x, int y);
   void Tirage_KeyDown(int keyCode, int shift);
   void Tirage_KeyUp(int keyCode, int shift);
+  // Clicks on the hold panels, the drawing area and the double-up panel only give the
+  // focus back to Tirage, so that Space keeps playing.
+  void Jouez_Click(int index);
+  void SSTirage_Click();
+  void Doubler_Click();
   void Tirage1();
   void InitTirage();
   void Deal_Click(int index);

@@ -546,6 +546,31 @@ TEST(RoundDraw, OtherKeysDoNotPlay) {
   EXPECT_EQ(f.SSAlertes->Caption(), kFirstEn);
 }
 
+TEST(RoundDraw, ClicksOnTheHoldPanelsTheDrawingAreaAndTheDoublePanelOnlyGiveTheFocusToTirage) {
+  Harness h;
+  JeuPoker& f = *h.form;
+  Play(h, {QString("draw ") + kNothing1, "click Jouer"});
+  ASSERT_EQ(f.NbTirées, 5);
+  const QString word = f.Jouez(2).Caption();
+  const Long colour = f.Jouez(2).BackColor();
+  const long long slept = h.platform.sleptMs;
+  f.SSLangue(0).SetFocus();
+  ASSERT_NE(f.focusWidget(), f.Tirage);
+  EXPECT_EQ(h.Drive({"click Jouez(2)"}), QStringList{});
+  EXPECT_EQ(f.focusWidget(), f.Tirage);
+  EXPECT_EQ(f.Jouez(2).Caption(), word);
+  EXPECT_EQ(f.Jouez(2).BackColor(), colour);
+  f.SSLangue(0).SetFocus();
+  f.SSTirage->Click();
+  EXPECT_EQ(f.focusWidget(), f.Tirage);
+  f.SSLangue(0).SetFocus();
+  f.Doubler->Click();
+  EXPECT_EQ(f.focusWidget(), f.Tirage);
+  EXPECT_EQ(f.NbTirées, 5);
+  EXPECT_EQ(f.Capital, 199);
+  EXPECT_EQ(h.platform.sleptMs, slept);  // no blink
+}
+
 TEST(RoundDraw, JouerFacesFollowOnlyLangueTwo) {
   Harness h;
   JeuPoker& f = *h.form;

@@ -159,6 +159,24 @@ TEST(RoundState, NewGameEndsADoubleUpInProgress) {
   EXPECT_FALSE(h.form->SSConseils5->Visible());
 }
 
+TEST(RoundState, AfterANewGameDuringADoubleUpACardClickIsNoLongerAChoice) {
+  Harness h;
+  JeuPoker& f = *h.form;
+  f.NbTirées = 10;
+  f.DoubleEnCours = true;
+  f.DoubleCarte3 = 7;
+  for (int i = 1; i <= 4; ++i) f.Deal(i).SetPicture(f.Cartes(54).GetPicture());
+  f.Initialise();
+  h.platform.QueueDraws({9, 2});
+  const long long slept = h.platform.sleptMs;
+  h.Drive({"click Deal(2)"});
+  EXPECT_EQ(h.platform.sleptMs - slept, 7 * (40 + 150));  // refused with a blink
+  EXPECT_EQ(f.DoubleCarte3, 7);
+  EXPECT_EQ(f.CarteChoisie, 0);
+  EXPECT_EQ(f.Deal(2).GetPicture(), f.Cartes(54).GetPicture());
+  EXPECT_EQ(h.platform.queuedDraws.size(), 2u);
+}
+
 // ---- The reset at the start of a round --------------------------------------------------
 
 TEST(RoundState, RoundResetCreditsAPendingWin) {
