@@ -85,6 +85,29 @@ void CountingWithLabels(benchmark::State& state) {
   state.SetLabel(s.name);
 }
 
+// Classifies with Résultat every final hand made of the held cards and a set of replacement
+// cards drawn from `deck`, adding one to the class of each.
+void CountDraws(JeuPoker& f, const std::vector<int>& held, const std::vector<int>& deck,
+                std::array<long long, 11>& counts) {
+  const int d = 5 - static_cast<int>(held.size());
+  const int n = static_cast<int>(deck.size());
+  std::vector<int> idx(static_cast<std::size_t>(d));
+  for (int i = 0; i < d; ++i) idx[static_cast<std::size_t>(i)] = i;
+  while (true) {
+    int k = 0;
+    for (int h : held) f.MainTriée(k++) = static_cast<Byte>(h);
+    for (int i = 0; i < d; ++i)
+      f.MainTriée(k++) = static_cast<Byte>(deck[static_cast<std::size_t>(idx[static_cast<std::size_t>(i)])]);
+    f.Résultat();
+    ++counts[f.RangMain];
+    int i = d - 1;
+    while (i >= 0 && idx[static_cast<std::size_t>(i)] == n - d + i) --i;
+    if (i < 0) return;
+    ++idx[static_cast<std::size_t>(i)];
+    for (int j = i + 1; j < d; ++j) idx[static_cast<std::size_t>(j)] = idx[static_cast<std::size_t>(j - 1)] + 1;
+  }
+}
+
 // Every set of replacement cards, each final hand classified by Résultat.
 void Enumeration(benchmark::State& state) {
   JeuPoker& f = Form();
@@ -95,26 +118,10 @@ void Enumeration(benchmark::State& state) {
     if (s.holds >> i & 1) held.push_back(s.cards[static_cast<std::size_t>(i)]);
   for (int c = 0; c < 52 + s.jokers; ++c)
     if (std::find(s.cards.begin(), s.cards.end(), c) == s.cards.end()) deck.push_back(c);
-  const int d = 5 - static_cast<int>(held.size());
-  const int n = static_cast<int>(deck.size());
   f.NbTirées = 10;
   for (auto _ : state) {
     std::array<long long, 11> counts{};
-    std::vector<int> idx(static_cast<std::size_t>(d));
-    for (int i = 0; i < d; ++i) idx[static_cast<std::size_t>(i)] = i;
-    while (true) {
-      int k = 0;
-      for (int h : held) f.MainTriée(k++) = static_cast<Byte>(h);
-      for (int i = 0; i < d; ++i)
-        f.MainTriée(k++) = static_cast<Byte>(deck[static_cast<std::size_t>(idx[static_cast<std::size_t>(i)])]);
-      f.Résultat();
-      ++counts[f.RangMain];
-      int i = d - 1;
-      while (i >= 0 && idx[static_cast<std::size_t>(i)] == n - d + i) --i;
-      if (i < 0) break;
-      ++idx[static_cast<std::size_t>(i)];
-      for (int j = i + 1; j < d; ++j) idx[static_cast<std::size_t>(j)] = idx[static_cast<std::size_t>(j - 1)] + 1;
-    }
+    CountDraws(f, held, deck, counts);
     benchmark::DoNotOptimize(counts);
   }
   f.NbTirées = 5;
@@ -147,29 +154,13 @@ void EnumerationAllHoldSets(benchmark::State& state) {
   std::vector<int> deck;
   for (int c = 0; c < 54; ++c)
     if (std::find(kTable.begin(), kTable.end(), c) == kTable.end()) deck.push_back(c);
-  const int n = static_cast<int>(deck.size());
   for (auto _ : state) {
     std::array<long long, 11> counts{};
     for (int holds = 0; holds < 32; ++holds) {
       std::vector<int> held;
       for (int i = 0; i < 5; ++i)
         if (holds >> i & 1) held.push_back(kTable[static_cast<std::size_t>(i)]);
-      const int d = 5 - static_cast<int>(held.size());
-      std::vector<int> idx(static_cast<std::size_t>(d));
-      for (int i = 0; i < d; ++i) idx[static_cast<std::size_t>(i)] = i;
-      while (true) {
-        int k = 0;
-        for (int h : held) f.MainTriée(k++) = static_cast<Byte>(h);
-        for (int i = 0; i < d; ++i)
-          f.MainTriée(k++) = static_cast<Byte>(deck[static_cast<std::size_t>(idx[static_cast<std::size_t>(i)])]);
-        f.Résultat();
-        ++counts[f.RangMain];
-        int i = d - 1;
-        while (i >= 0 && idx[static_cast<std::size_t>(i)] == n - d + i) --i;
-        if (i < 0) break;
-        ++idx[static_cast<std::size_t>(i)];
-        for (int j = i + 1; j < d; ++j) idx[static_cast<std::size_t>(j)] = idx[static_cast<std::size_t>(j - 1)] + 1;
-      }
+      CountDraws(f, held, deck, counts);
     }
     benchmark::DoNotOptimize(counts);
   }
