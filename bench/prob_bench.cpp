@@ -30,17 +30,9 @@ const Shape kShapes[] = {
     {"four_to_royal", {8, 9, 10, 11, 30}, 0, 0b01111},
 };
 
+// The form of the benchmarks, on the QApplication that bench/main.cpp made.
 JeuPoker& Form() {
-  static int argc = 1;
-  static char name[] = "talvero_bench";
-  static char* argv[] = {name, nullptr};
-  static QApplication* app = [] {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    auto* a = new QApplication(argc, argv);
-    TimerControl::SetAutomatic(false);
-    return a;
-  }();
-  (void)app;
+  TimerControl::SetAutomatic(false);
   static ScriptedPlatform platform;
   static QTemporaryDir dir;
   static std::unique_ptr<JeuPoker> form = [] {
