@@ -5,11 +5,6 @@
 #include "interface/JeuPoker.h"
 #include "services/platform.h"
 
-namespace {
-bool English(Byte langue) { return langue == 0 || langue == 2; }
-
-}  // namespace
-
 void JeuPoker::Double1X5_Click() {
   Tirage->SetFocus();
   if (AutoPlay->BevelWidth() == 0) return;
@@ -27,8 +22,7 @@ void JeuPoker::Double1X5_Click() {
   CartesTirage(0) = maison;
   for (int i = 1; i <= 4; ++i) Deal(i).SetPicture(Cartes(54).GetPicture());
   Doubler->SetVisible(false);
-  SSAlertes->SetCaption(English(Langue) ? QStringLiteral("Choose a masked card and click on its back.")
-                                        : QStringLiteral("Cliquez sur une carte face cachée de votre choix"));
+  SSAlertes->SetCaption(TexteAlerte(Alerte::ChoixCarte));
 }
 
 void JeuPoker::ChoixCarteQouD() {
@@ -50,28 +44,24 @@ void JeuPoker::ChoixCarteQouD() {
     DoubleCarte3 = vb::CByte(r + 13 * s);
   } while (r == DoubleCarte1 && s == DoubleCarte2);
 
-  if (!AffichageImmédiat) AnimeCarte(CarteChoisie, false);
+  if (!AffichageImmédiat) AnimeCarte(Deal(CarteChoisie), false);
   Deal(CarteChoisie).SetPicture(Cartes(DoubleCarte3).GetPicture());
   CartesTirage(CarteChoisie) = vb::CByte(r + 13 * s);
-  if (!AffichageImmédiat) AnimeCarte(CarteChoisie, true);
+  if (!AffichageImmédiat) AnimeCarte(Deal(CarteChoisie), true);
 
   // The names follow the language in force at the moment of the duel.
   RemplitNomsValeurs();
-  const bool english = English(Langue);
   const QString p = NomsValeurs(DoubleCarte3);
   const QString b = NomsValeurs(DoubleCarte2 * 13 + DoubleCarte1);
 
   if (r > DoubleCarte1) {
-    SSAlertes->SetCaption(english
-                              ? QStringLiteral("YOU WIN ! %1 is stronger then %2. QUIT, DOUBLE or PLAY ?").arg(p, b)
-                              : QStringLiteral("GAGNE ! %1 est plus fort que %2. QUITTE, DOUBLE ou JOUER ?").arg(p, b));
+    SSAlertes->SetCaption(TexteDuel(1, p, b));
     Doubler->SetVisible(true);
     GainMain = vb::CLng(static_cast<long long>(GainMain) * 2);
     Gains->SetCaption(QString::number(GainMain));
     AfficheGain();
   } else if (r == DoubleCarte1) {
-    SSAlertes->SetCaption(english ? QStringLiteral("EQUAL ! %1 is equal %2. QUIT, DOUBLE or PLAY ?").arg(p, b)
-                                  : QStringLiteral("QUITTE ! %1 est égal %2. QUITTE, DOUBLE ou JOUER ?").arg(p, b));
+    SSAlertes->SetCaption(TexteDuel(0, p, b));
     Doubler->SetVisible(true);
   } else {
     for (IndiceDouble = 0; IndiceDouble <= 9; ++IndiceDouble) {
@@ -85,21 +75,14 @@ void JeuPoker::ChoixCarteQouD() {
     const Long mise = vb::CLng(static_cast<long long>(Niveau) * Mise);
     if (Capital != 0 && mise <= Capital) {
       Pointeur10();
-      SSAlertes->SetCaption(english ? QStringLiteral("YOU LOST ! %1 is beaten by %2. NEW DRAWING.").arg(p, b)
-                                    : QStringLiteral("PERDU ! %1 est moins fort que %2. NOUVEAU TIRAGE.").arg(p, b));
+      SSAlertes->SetCaption(TexteDuel(-1, p, b));
     } else if (Capital != 0) {
       // Unlike the same case at the end of a drawing, the pointers are left as they are.
-      SSAlertes->SetCaption(english ? QStringLiteral("YOU LOST ! WARNING ! No more credit ! Bet back to 1.")
-                                    : QStringLiteral("PERDU ! ATTENTION ! Pas assez de crédit. Mises ramenées à 1."));
+      SSAlertes->SetCaption(TexteAlerte(Alerte::PerduMiseRamenée));
       RemetMiseÀUn();
     } else {
       Pointeur12();
-      SSAlertes->SetCaption(
-          english
-              ? QStringLiteral("YOU LOST ! WARNING ! No more credit ! Click on the icon up on the right handside of "
-                               "the screen for a new game.")
-              : QStringLiteral("PERDU ! Crédit épuisé ! Cliquez sur l'icône situé en haut à droite de l'écran pour "
-                               "une nouvelle partie."));
+      SSAlertes->SetCaption(TexteAlerte(Alerte::PerduCréditÉpuisé));
     }
     Gains->SetCaption(QString());
     AfficheGain();
@@ -118,7 +101,5 @@ void JeuPoker::Quitte1X5_Click() {
   for (int i = 0; i <= 4; ++i) Jouez(i).SetVisible(true);
   InitPremierTirage();
   for (int i = 0; i <= 4; ++i) Deal(i).SetPicture(Cartes(54).GetPicture());
-  SSAlertes->SetCaption(English(Langue)
-                            ? QStringLiteral("NEW DRAWING : Click on PLAY or press the 'Space' key.")
-                            : QStringLiteral("NOUVEAU TIRAGE : Cliquez sur JOUER ou pressez la touche 'Space'."));
+  SSAlertes->SetCaption(TexteAlerte(Alerte::NouveauTirage));
 }

@@ -67,12 +67,12 @@ void JeuPoker::Doubler_Click() { Tirage->SetFocus(); }
 
 // ---- One drawing -----------------------------------------------------------------------
 
-void JeuPoker::AnimeCarte(int i, bool grow) {
+void JeuPoker::AnimeCarte(Control& carte, bool grow) {
   for (int step = 0; step < 30; ++step) {
     Sys().DoEvents();
     const double f = grow ? 1.0 / 0.94 : 0.94;
-    Deal(i).SetHeight(static_cast<int>(std::lround(Deal(i).Height() * f)));
-    Deal(i).SetWidth(static_cast<int>(std::lround(Deal(i).Width() * f)));
+    carte.SetHeight(static_cast<int>(std::lround(carte.Height() * f)));
+    carte.SetWidth(static_cast<int>(std::lround(carte.Width() * f)));
   }
 }
 
@@ -113,9 +113,9 @@ void JeuPoker::Tirage1() {
       }
     }
     if (!distribuée) continue;
-    if (!AffichageImmédiat) AnimeCarte(i, false);
+    if (!AffichageImmédiat) AnimeCarte(Deal(i), false);
     Deal(i).SetPicture(Cartes(tirée).GetPicture());
-    if (!AffichageImmédiat) AnimeCarte(i, true);
+    if (!AffichageImmédiat) AnimeCarte(Deal(i), true);
     CartesTirage(i) = vb::CByte(tirée);
     CartesSorties(NbTirées) = vb::CInt(tirée);
   }
@@ -130,11 +130,8 @@ void JeuPoker::Tirage1() {
 
   // 12. The end of a round.
   if (NbTirées == 10) {
-    const bool anglais = Anglais(Langue);
     if (RangMain != 10) {
-      SSAlertes->SetCaption(
-          anglais ? QStringLiteral("QUIT to collect credits, DOUBLE to risk, PLAY to collect credits and play again.")
-                  : QStringLiteral("QUITTE pour encaisser, DOUBLE pour risquer, JOUER pour encaisser et rejouer."));
+      SSAlertes->SetCaption(TexteAlerte(Alerte::Encaisser));
     } else {
       EffaceLigneGagnante();
       Gains->SetCaption(QString());
@@ -142,23 +139,15 @@ void JeuPoker::Tirage1() {
       const long long mise = static_cast<long long>(Niveau) * Mise;
       if (Capital != 0 && mise <= Capital) {
         Pointeur10();
-        SSAlertes->SetCaption(anglais
-                                  ? QStringLiteral("NEW DRAWING : Click on PLAY or press the 'Space' key.")
-                                  : QStringLiteral("NOUVEAU TIRAGE : Cliquez sur JOUER ou pressez la touche 'Space'."));
+        SSAlertes->SetCaption(TexteAlerte(Alerte::NouveauTirage));
       } else if (Capital != 0) {
         Pointeur10();
-        SSAlertes->SetCaption(
-            anglais ? QStringLiteral("WARNING ! No more credit ! Bet back to 1.")
-                    : QStringLiteral("ATTENTION ! Vous n'avez plus assez de crédit. Mises ramenées à 1."));
+        SSAlertes->SetCaption(TexteAlerte(Alerte::MiseRamenée));
         RemetMiseÀUn();
       } else {
         for (int i = 0; i <= 4; ++i) Jouez(i).SetVisible(false);
         Pointeur12();
-        SSAlertes->SetCaption(
-            anglais ? QStringLiteral("No more credit ! Click on the icon up on the right handside of the screen for a "
-                                     "new game.")
-                    : QStringLiteral("Crédit épuisé ! Cliquez sur l'icône situé en haut à droite de l'écran pour une "
-                                     "nouvelle partie."));
+        SSAlertes->SetCaption(TexteAlerte(Alerte::CréditÉpuisé));
       }
     }
   }
@@ -195,9 +184,9 @@ void JeuPoker::InitTirage() {
   for (int i = 0; i <= 4; ++i) {
     if (Jouez(i).Caption() == jeter || (NbTirées == 0 && Deal(i).GetPicture() != Cartes(kDos).GetPicture())) {
       retournée = true;
-      if (!AffichageImmédiat) AnimeCarte(i, false);
+      if (!AffichageImmédiat) AnimeCarte(Deal(i), false);
       Deal(i).SetPicture(Cartes(kDos).GetPicture());
-      if (!AffichageImmédiat) AnimeCarte(i, true);
+      if (!AffichageImmédiat) AnimeCarte(Deal(i), true);
     }
   }
   Sys().DoEvents();

@@ -7,7 +7,6 @@ namespace {
 constexpr Long kHeldColour = 0xC0C000;
 constexpr Long kRejectedColour = 0x607000;
 
-bool English(Byte langue) { return langue == 0 || langue == 2; }
 bool IsAce(Byte code) { return code == 12 || code == 25 || code == 38 || code == 51; }
 bool IsKing(Byte code) { return code == 11 || code == 24 || code == 37 || code == 50; }
 }  // namespace
@@ -17,9 +16,7 @@ void JeuPoker::MarqueCarte(int i) { CartesGardées(PositionsMain(i)) = true; }
 void JeuPoker::GardeCartes() {
   if (NbTirées == 10 || NbTirées == 50) return;
 
-  SSAlertes->SetCaption(English(Langue)
-                            ? QStringLiteral("SECOND DRAWING : Click on PLAY or press the 'Space' key.")
-                            : QStringLiteral("SECOND TIRAGE : Cliquez sur JOUER ou pressez la touche 'Space'."));
+  SSAlertes->SetCaption(TexteAlerte(Alerte::SecondTirage));
 
   // With the option off all five cards start as rejected.
   if (ParesseNon->BevelWidth() == 0) {

@@ -62,6 +62,23 @@ void JeuPoker::WireEvents() {
   Double1X5->Click = [this] { Double1X5_Click(); };
   Quitte1X5->Click = [this] { Quitte1X5_Click(); };
   Fin->Click = [this] { Fin_Click(); };
+  for (int p = 0; p <= 24; ++p) Deal2(p).Click = [this, p] { Deal2_Click(p); };
+  Plus5->Click = [this] { Plus5_Click(); };
+  Moins5->Click = [this] { Moins5_Click(); };
+  Plus5->MouseMove = [this](int b, int s, int x, int y) { Plus5_MouseMove(b, s, x, y); };
+  Moins5->MouseMove = [this](int b, int s, int x, int y) { Moins5_MouseMove(b, s, x, y); };
+  Double5X5->Click = [this] { Double5X5_Click(); };
+  Quitte5X5->Click = [this] { Quitte5X5_Click(); };
+  Conseils5->Click = [this] { Conseils5_Click(); };
+  AnnuleConseils5->Click = [this] { AnnuleConseils5_Click(); };
+  Jeu3D->Click = [this] { Jeu3D_Click(); };
+  JeuSimple->Click = [this] { JeuSimple_Click(); };
+  for (int i = 0; i <= 2; ++i) NJokerSélection(i).Click = [this, i] { NJokerSélection_Click(i); };
+  SSRecommence->Click = [this] { SSRecommence_Click(); };
+  for (int i = 0; i <= 1; ++i) SSVitesse(i).Click = [this, i] { SSVitesse_Click(i); };
+  SSRègles->Click = [this] { SSRègles_Click(); };
+  AidesOk->Click = [this] { AidesOk_Click(); };
+  TitreTimer->Tick = [this] { TitreTimer_Timer(); };
   for (int i = 0; i <= 1; ++i) SSLangue(i).Click = [this, i] { SSLangue_Click(i); };
 }
 
@@ -111,4 +128,6 @@ void JeuPoker::RegisterCoreVariables() {
   Bind("TailleJeu", TailleJeu);
   Bind("Langue", Langue);
   Bind("Messages", Messages);
+  Bind("MainsLignes", MainsLignes);
+  Bind("NomsMains", NomsMains);
 }

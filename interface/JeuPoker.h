@@ -231,8 +231,8 @@ class JeuPoker : public QWidget {
   void RemplitTableGains();
   // Puts the highlighted row of the pay table back to white on black.
   void EffaceLigneGagnante();
-  // Shrinks (grow false) or grows Deal(i) in 30 steps of 0.94, yielding at each.
-  void AnimeCarte(int i, bool grow);
+  // Shrinks (grow false) or grows a card button in 30 steps of 0.94, yielding at each.
+  void AnimeCarte(Control& carte, bool grow);
 
   // Additions of holds, automatic selection and double-up:
   // Hold and reject words of the language in force.
@@ -246,7 +246,39 @@ class JeuPoker : public QWidget {
   void RemplitNomsValeurs();
 
   // ---- 2D game ----------------------------------------------------------------------------
+  vb::Array<Byte, 0, 11> MainsLignes;  // RangMain of each line at the last settlement
   void Tirage5();
+  void InitPremierTirage5();
+  void Affichecarte5();
+  void Deal2_Click(int index);
+  void Plus5_Click();
+  void Moins5_Click();
+  void Plus5_MouseMove(int button, int shift, int x, int y);
+  void Moins5_MouseMove(int button, int shift, int x, int y);
+  void Double5X5_Click();
+  void Quitte5X5_Click();
+  void ChoixCarteQouD5();
+  void Conseils5_Click();
+  void AnnuleConseils5_Click();
+
+  // Additions of the grid:
+  // Grid position of place j (0..4) of line 1..12, in the order the line reads them.
+  static Byte PositionLigne(int ligne, int j);
+  // Position p shows the card back.
+  bool FaceCachée(int p) const;
+  // Shrinks or grows Deal2(p); grown back, it is set to its exact size at rest.
+  void AnimeCarte2(int p, bool grow);
+  // Shows a picture on Deal2(p), with the card animation when dealing is slow.
+  void MontreCarte2(int p, Picture image);
+  // The settlement of a drawing (every line in play priced) and its conclusion.
+  void RègleLignes();
+  void ConclutTirage5();
+  // Line index i (0..11) in play or out: labels, drawn line and the tag's colour.
+  void MetLigneEnJeu(int i, bool enJeu);
+  // After a change of Niveau: the level and stake captions and digits.
+  void NiveauChangé();
+  // Bet and level back to 1 with their digits; the lines beyond the first go out of play.
+  void RemetNiveauÀUn();
 
   // ---- Probability engine -----------------------------------------------------------------
   void Probabilités();
@@ -341,11 +373,51 @@ class JeuPoker : public QWidget {
   void Pointeur10();
   void Pointeur12();
   void ClignoteAlertes();
+  // The alert lines that several routines show, in the language in force.
+  enum class Alerte {
+    SecondTirage,
+    Encaisser,        // a win waits: collect, risk or play
+    EncaisserMiseUn,  // the same, warning that the bet will fall back to 1
+    NouveauTirage,
+    MiseRamenée,
+    CréditÉpuisé,
+    CréditÉpuiséGrille,
+    ChoixCarte,  // the double-up asks for a masked card
+    PerduMiseRamenée,
+    PerduCréditÉpuisé,
+  };
+  QString TexteAlerte(Alerte a) const;
+  // The end of a double-up duel: won (comparaison > 0), equal (0) or lost (< 0), with the
+  // names of the player's card and the house's.
+  QString TexteDuel(int comparaison, const QString& joueur, const QString& maison) const;
   void ModifieLangue();
   // Additions of the digit displays, bets, pointers and alerts:
   // The refusals shared by the bet buttons and their pointers: a double-up, the time between
   // two drawings, a pending win, no credit.
   bool MiseRefusée() const;
+
+  // Game switch and options of the frame:
+  void Jeu3D_Click();
+  void JeuSimple_Click();
+  void NJokerSélection_Click(int index);
+  void SSRecommence_Click();
+  void SSVitesse_Click(int index);
+  void SSRègles_Click();
+  void AidesOk_Click();
+  void TitreTimer_Timer();
+  // The refusals of the game and deck switches; a refusal blinks the alert line.
+  bool ChangementRefusé();
+  // Jouez(0..4) back to their "play" caption and colour.
+  void JouezÀJouer();
+  // The odds panel at rest, with a highlighted pay-table row put back.
+  void StatistiquesAuRepos();
+  // Frames, labels and the statistics panel for the game in force.
+  void PlaceJeux(bool grille);
+  // Language tables:
+  vb::Array<QString, 0, 10> NomsMains;
+  void RemplitNomsMains();
+  // The rules page in French or English.
+  void ConstruitAides(bool anglais);
   // After a change of Mise: the bet caption, its digits and the pay table's amounts.
   void MiseChangée();
 

@@ -219,6 +219,9 @@ void JeuPoker::BuildControls() {
   PourcDéc = MakeArray(0, 11, [&](int i) {
     auto* l = row("PourcDéc", i, 3105, 300, 195, 0x404000);
     l->SetFontSpec(kSans, 7, true);
+    // The whole part of the percentage lies over its column, whose colour shows through:
+    // teal while the row is counted, black when it is blank.
+    l->SetTransparent(true);
     if (i == 11) l->SetForeColor(0x0000FF);
     return l;
   });
@@ -328,7 +331,8 @@ void JeuPoker::BuildControls() {
   Jeu3DLabel->SetCaption("JEU 2");
   for (auto* l : {JeuSimpleLabel, Jeu3DLabel}) {
     l->SetBackColor(0x404080);
-    l->SetForeColor(0xFFFFFF);
+    // The label of the game in force is white, the other grey.
+    l->SetForeColor(l == JeuSimpleLabel ? 0xFFFFFF : 0x808080);
     l->SetAlignment(2);
     l->SetFontSpec(kSans, 11, true);
   }
@@ -508,6 +512,8 @@ void JeuPoker::BuildControls() {
   });
   AidesOk = Make(K::Button, "AidesOk", SSAides, 10680, 7800, 975, 615);
   AidesOk->SetCaption("OK");
+  // The page as the form is designed, in French; the language switch rebuilds it.
+  ConstruitAides(false);
 
   // ---- Picture stores, off the screen -----------------------------------------------------------------
   Cartes = MakeArray(0, 54, [&](int i) { return Make(K::Image, "Cartes", SSCartes, 0, 0, 88 * 15, 133 * 15, i); });

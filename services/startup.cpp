@@ -46,6 +46,8 @@ void JeuPoker::Form_Load() {
   vb::SkipOnError([&] {
     if (Langue == 2 || Langue == 3) ModifieLangue();
   });
+  // Without a stored language the names of the grid's hands follow the alert lines' test.
+  vb::SkipOnError([&] { RemplitNomsMains(); });
   // 10. All cards start face down.
   vb::SkipOnError([&] {
     for (int i = 0; i <= 24; ++i) Deal2(i).SetPicture(Cartes(54).GetPicture());
