@@ -3,6 +3,8 @@
 
 #include <QApplication>
 
+#include "bench/bench_form.h"
+
 void ReportFirstBuildPictures();
 
 int main(int argc, char** argv) {
@@ -12,5 +14,6 @@ int main(int argc, char** argv) {
   benchmark::Initialize(&argc, argv);
   benchmark::RunSpecifiedBenchmarks();
   benchmark::Shutdown();
+  ReleaseBenchForm();
   return 0;
 }

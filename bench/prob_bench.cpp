@@ -9,6 +9,7 @@
 #include <memory>
 #include <vector>
 
+#include "bench/bench_form.h"
 #include "interface/JeuPoker.h"
 #include "interface/controls.h"
 #include "services/platform.h"
@@ -30,18 +31,6 @@ const Shape kShapes[] = {
     {"four_to_royal", {8, 9, 10, 11, 30}, 0, 0b01111},
 };
 
-// The form of the benchmarks, on the QApplication that bench/main.cpp made.
-JeuPoker& Form() {
-  TimerControl::SetAutomatic(false);
-  static ScriptedPlatform platform;
-  static QTemporaryDir dir;
-  static std::unique_ptr<JeuPoker> form = [] {
-    SetPlatform(&platform);
-    return std::make_unique<JeuPoker>(dir.path());
-  }();
-  return *form;
-}
-
 void Lay(JeuPoker& f, const Shape& s) {
   f.NbJokers = static_cast<Byte>(s.jokers);
   f.TailleJeu = 52 + s.jokers;
@@ -56,7 +45,7 @@ void Lay(JeuPoker& f, const Shape& s) {
 }
 
 void Counting(benchmark::State& state) {
-  JeuPoker& f = Form();
+  JeuPoker& f = BenchForm();
   const Shape& s = kShapes[state.range(0)];
   Lay(f, s);
   for (auto _ : state) {
@@ -67,7 +56,7 @@ void Counting(benchmark::State& state) {
 }
 
 void CountingWithLabels(benchmark::State& state) {
-  JeuPoker& f = Form();
+  JeuPoker& f = BenchForm();
   const Shape& s = kShapes[state.range(0)];
   Lay(f, s);
   for (auto _ : state) {
@@ -102,7 +91,7 @@ void CountDraws(JeuPoker& f, const std::vector<int>& held, const std::vector<int
 
 // Every set of replacement cards, each final hand classified by Résultat.
 void Enumeration(benchmark::State& state) {
-  JeuPoker& f = Form();
+  JeuPoker& f = BenchForm();
   const Shape& s = kShapes[state.range(0)];
   Lay(f, s);
   std::vector<int> held, deck;
@@ -125,7 +114,7 @@ void Enumeration(benchmark::State& state) {
 const std::array<int, 5> kTable = {0, 16, 31, 46, 9};
 
 void CountingAllHoldSets(benchmark::State& state) {
-  JeuPoker& f = Form();
+  JeuPoker& f = BenchForm();
   std::array<Shape, 32> shapes;
   for (int h = 0; h < 32; ++h) shapes[static_cast<std::size_t>(h)] = {"all", kTable, 2, h};
   Lay(f, shapes[0]);
@@ -140,7 +129,7 @@ void CountingAllHoldSets(benchmark::State& state) {
 }
 
 void EnumerationAllHoldSets(benchmark::State& state) {
-  JeuPoker& f = Form();
+  JeuPoker& f = BenchForm();
   Lay(f, {"all", kTable, 2, 0});
   f.NbTirées = 10;
   std::vector<int> deck;
