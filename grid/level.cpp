@@ -69,9 +69,10 @@ void JeuPoker::Moins5_Click() {
   NiveauChangé();
 }
 
-// The pointer follows the credit test of the step that raises the stake; elsewhere it is
-// left as it is.
+// The hint, then the pointer: it follows the credit test of the step that raises the stake;
+// elsewhere it is left as it is.
 void JeuPoker::Plus5_MouseMove(int, int, int, int) {
+  MontreAide(22, false, false);
   if (MiseRefusée() || Niveau >= 12) return;
   const bool couvert = (static_cast<long long>(Niveau) + 1) * Mise <= Capital;
   if (Plus5->MousePointer() == kFlèche && !couvert)
@@ -81,6 +82,7 @@ void JeuPoker::Plus5_MouseMove(int, int, int, int) {
 }
 
 void JeuPoker::Moins5_MouseMove(int, int, int, int) {
+  MontreAide(21, false, false);
   if (MiseRefusée() || Niveau != 1) return;
   const bool couvert = static_cast<long long>(Mise) * 12 <= Capital;
   if (Moins5->MousePointer() == kFlèche && !couvert)

@@ -185,6 +185,8 @@ void JeuPoker::Affichecarte5() {
 
 void JeuPoker::Deal2_Click(int index) {
   Tirage->SetFocus();
+  Messages(0) = Messages(LangueVar + TexteAide);
+  AfficheMessage();
   // Between the drawings any card turns; during a double-up any card but the house's is the
   // pick; otherwise the click is refused.
   if (NbTirées != 25) {

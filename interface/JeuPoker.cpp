@@ -79,6 +79,10 @@ void JeuPoker::WireEvents() {
   SSRègles->Click = [this] { SSRègles_Click(); };
   AidesOk->Click = [this] { AidesOk_Click(); };
   TitreTimer->Tick = [this] { TitreTimer_Timer(); };
+  AutoPlay->Click = [this] { AutoPlay_Click(); };
+  AutoPlayStop->Click = [this] { AutoPlayStop_Click(); };
+  AutoPlayTimer->Tick = [this] { AutoPlayTimer_Timer(); };
+  WireHints();
   for (int i = 0; i <= 1; ++i) SSLangue(i).Click = [this, i] { SSLangue_Click(i); };
 }
 
@@ -130,4 +134,8 @@ void JeuPoker::RegisterCoreVariables() {
   Bind("Messages", Messages);
   Bind("MainsLignes", MainsLignes);
   Bind("NomsMains", NomsMains);
+  Bind("NomsCouleurs", NomsCouleurs);
+  Bind("LangueVar", LangueVar);
+  Bind("TexteAide", TexteAide);
+  Bind("MainExemple", MainExemple);
 }

@@ -280,6 +280,14 @@ class JeuPoker : public QWidget {
   // Bet and level back to 1 with their digits; the lines beyond the first go out of play.
   void RemetNiveauÀUn();
 
+  // Automatic mode:
+  void AutoPlay_Click();
+  void AutoPlayStop_Click();
+  void AutoPlayTimer_Timer();
+  bool AutoEnCours() const;
+  // The pointers of the table's buttons and cards while the mode runs, or at rest.
+  void PointeursAuto(bool enMarche);
+
   // ---- Probability engine -----------------------------------------------------------------
   void Probabilités();
   void AfficheFréquence();
@@ -415,7 +423,45 @@ class JeuPoker : public QWidget {
   void PlaceJeux(bool grille);
   // Language tables:
   vb::Array<QString, 0, 10> NomsMains;
+  vb::Array<QString, 0, 3> NomsCouleurs;
+  Integer LangueVar = 0;  // offset of the hint table: 0 French, 100 English
+  Byte TexteAide = 0;     // the hint key now selected
+  Byte MainExemple = 50;  // row of the example hand shown; 50 none
   void RemplitNomsMains();
+  // Fills the hint table, both languages at once.
+  void RemplitMessages();
+  // Puts the alert line into the other language when it is one of the known texts.
+  void TraduitAlerte(bool versAnglais);
+  void SSLangue_MouseMove(int index);
+
+  // Hints and example hands:
+  void AfficheMessage();
+  void Deal2_MouseMove(int index);
+  void Deal_MouseMove(int index);
+  void Jouez_MouseMove(int index);
+  void SSAireJeu_MouseMove();
+  void SSAireJeu5_MouseMove();
+  void ImageConseils_MouseMove();
+  void Mises_MouseMove();
+  void UnADouzeTémoin_MouseMove(int index);
+  void Maintitre_MouseMove(int index);
+  void Maintitre_MouseDown(int index);
+  void MainLabel_MouseMove(int index);
+  void AutoPlay_MouseMove();
+  void AutoPlayStop_MouseMove();
+  // Selects hint key `clé` into Messages(0) (key 50 in automatic mode when `cléAuto`, and the
+  // text emptied in automatic mode when `videEnAuto`) and shows it.
+  void Aide(int clé);
+  void MontreAide(int clé, bool videEnAuto, bool cléAuto);
+  void MontreTexte(const QString& texte);
+  // The example hand over the hint line goes away.
+  void CacheExemple();
+  // A line's name or price (its number, then its caption), and the total.
+  void Ligne_MouseMove(int clé, int index, const Control& étiquette);
+  void ChoixJeu_MouseMove(int clé, const Control& bouton);
+  void Paresse_MouseMove(int clé);
+  void Statistiques_MouseMove(int clé);
+  void WireHints();
   // The rules page in French or English.
   void ConstruitAides(bool anglais);
   // After a change of Mise: the bet caption, its digits and the pay table's amounts.

@@ -160,7 +160,7 @@ void JeuPoker::Moins_Click() {
 }
 
 void JeuPoker::Plus_MouseMove(int, int, int, int) {
-  // The hint of the button (key 20) belongs to the hint routines.
+  MontreAide(20, false, false);
   if (MiseRefusée() || Mise >= 40) return;
   const bool couvert = (static_cast<long long>(Mise) + 1) * Niveau <= Capital;
   if (Plus->MousePointer() == kFlèche && !couvert)
@@ -170,7 +170,7 @@ void JeuPoker::Plus_MouseMove(int, int, int, int) {
 }
 
 void JeuPoker::Moins_MouseMove(int, int, int, int) {
-  // The hint of the button (key 19) belongs to the hint routines.
+  MontreAide(19, false, false);
   if (MiseRefusée() || Mise != 1) return;
   const bool couvert = static_cast<long long>(Niveau) * 40 <= Capital;
   if (Moins->MousePointer() == kFlèche && !couvert)

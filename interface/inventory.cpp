@@ -129,6 +129,9 @@ void JeuPoker::BuildControls() {
     b->SetBackColor(0x404040);
     b->SetForeColor(i < 2 ? 0xFFFFFF : 0x00FFFF);
     b->SetFontSpec(kSans, 12, true);
+    // The game starts with two jokers: that button is the selected one.
+    b->SetBevelWidth(i == 2 ? 0 : 3);
+    b->SetMousePointer(i == 2 ? 12 : 10);
     return b;
   });
 
@@ -160,7 +163,13 @@ void JeuPoker::BuildControls() {
     b->SetCaption(i == 0 ? QStringLiteral("\u25B7") : QStringLiteral("\u25B6\u25B6"));
     return b;
   });
+  // Instant dealing is in force at start; the pointer of an option tells whether a click on
+  // it will work.
   SSVitesse(1).SetBevelWidth(0);
+  SSVitesse(1).SetMousePointer(12);
+  SSVitesse(0).SetMousePointer(10);
+  ParesseOui->SetMousePointer(12);
+  ParesseNon->SetMousePointer(10);
   AutoPlay = Make(K::Panel, "AutoPlay", SSMenu, 4200, 30, 660, 570);
   AutoPlay->SetCaption("AUTO");
   AutoPlay->SetForeColor(0x0000C0);

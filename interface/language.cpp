@@ -1,5 +1,6 @@
 // Language tables and the switch between French and English.
 #include <QStringList>
+#include <span>
 
 #include "interface/JeuPoker.h"
 
@@ -15,10 +16,10 @@ void JeuPoker::RemplitNomsValeurs() {
   static const char* const kCouleursFr[4] = {" de Trèfle", " de Carreau", " de Coeur", " de Pique"};
   static const char* const kCouleursEn[4] = {" of Clubs", " of Diamonds", " of Hearts", " of Spades"};
   const bool english = English(Langue);
+  for (int s = 0; s <= 3; ++s) NomsCouleurs(s) = QString::fromUtf8(english ? kCouleursEn[s] : kCouleursFr[s]);
   for (int s = 0; s <= 3; ++s)
     for (int r = 0; r <= 12; ++r)
-      NomsValeurs(s * 13 + r) = QString::fromUtf8(english ? kRangsEn[r] : kRangsFr[r]) +
-                                QString::fromUtf8(english ? kCouleursEn[s] : kCouleursFr[s]);
+      NomsValeurs(s * 13 + r) = QString::fromUtf8(english ? kRangsEn[r] : kRangsFr[r]) + NomsCouleurs(s);
 }
 
 void JeuPoker::RemplitNomsMains() {
@@ -89,12 +90,209 @@ void JeuPoker::ConstruitAides(bool anglais) {
   for (int i = 0; i <= 5; ++i) Aides(i).SetCaption(t[i]);
 }
 
-// For now the card and hand names, the line names and the rules page follow the language;
-// the other captions and the alerts come with the language switch proper.
+void JeuPoker::RemplitMessages() {
+  struct Clé {
+    int clé;
+    const char* fr;
+    const char* en;  // nullptr: no English text
+  };
+  // Keys 34 to 36 and 65 to 68 have no text; key 99 stays empty on purpose.
+  static const Clé kMessages[] = {
+      {1, "Cliquez sur JOUER ou pressez la touche 'Space'", "Click on PLAY or press 'Space' key"},
+      {2, "Carte rejetée\rCliquez pour la garder", "Card rejected\rClick on to keep it"},
+      {3, "Carte gardée\rCliquez pour la rejeter", "Card kept\rClick to reject it"},
+      {4, "Cliquez pour choisir cette carte", "Click on to choose this card"},
+      {5, "QUITTE, DOUBLE ou JOUER ?", "QUIT, DOUBLE or PLAY ?"},
+      {6, "Aire de jeu à 5 cartes", "5 Card game section"},
+      {7, "Cliquez pour encaisser", "Click on to collect"},
+      {8, "Cliquez pour risquer", "Click on to risk"},
+      {9, "Sélection Automatique des cartes après le premier tirage", "Automatic cards selection after first drawing"},
+      {10, "Sélection Manuelle des cartes après le premier tirage", "Manual cards selection after first drawing"},
+      {11, "Carte rejetée au second tirage", "Card rejected at the second drawing"},
+      {12, "Carte gardée au second tirage", "Card kept at the second drawing"},
+      {13, "Votre crédit : ", "Your credit : "},
+      {14, "Vos gains : ", "Your winnings : "},
+      {15, "Votre mise : ", "Your bet : "},
+      {16, "Mise maximum : 40", "Maximum bet : 40"},
+      {17, "Niveau de mise :", "Bet level :"},
+      {18, "Mise maximum : 480 (40 X 12)", "Maximum bet : 480 (40 X 12)"},
+      {19, "Diminuer votre mise", "To decrease your bet"},
+      {20, "Augmenter votre mise", "To Increase your bet"},
+      {21, "Diminuer votre niveau de mise", "To decrease the level of your bet"},
+      {22, "Augmenter votre niveau de mise", "To Increase the level of your bet"},
+      {23, "Tirer les cartes\r(Touche 'Space')", "To display cards\r('Space' key)"},
+      {24, "Aire de jeu à 25 cartes", "25 Card game section"},
+      {25, "Cliquez pour une sélection automatisée du tirage en cours",
+       "Click on for an automatic selection of the current drawing"},
+      {26, "Cliquez pour annuler la sélection automatisée du tirage en cours",
+       "Click on to cancel the automatic selection of the current drawing"},
+      {27, "Niveau de mise N°", "Bet level NO"},
+      {28, "Total des gains du tirage en cours", "Winning amount of the current drawing"},
+      {29, "Main du niveau de mise N°", "Deal on the bet level NO"},
+      {30, "Gains du niveau de mise N°", "Winnings of the bet level NO"},
+      {31, "Aides contextuelles", "Help in dealing"},
+      {32, "Affichage Lent", "Slow display"},
+      {33, "Affichage Immédiat", "Instant display"},
+      {37, "Cliquez pour recommencer une partie", "Click on to start a new game"},
+      {38, "Cartes traditionnelles", nullptr},
+      {39, "Cartes érotiques", nullptr},
+      {40, "Sélectionnées", nullptr},
+      {41, "Cliquez pour les sélectionner", nullptr},
+      {42, "Jeu traditionnel", "Classic Game"},
+      {43, "Jeu 2D", "2D Game"},
+      {44, "Sélectionné", "Selected"},
+      {45, "Cliquez pour le sélectionner", "Click on to select it"},
+      {46, "Sélection Automatique des cartes", "Cards Automatic Selection"},
+      {47, "Sélection Manuelle des cartes", "Cards Manual Selection"},
+      {48, "Non disponible en Jeu 2D", "Not available in 2D Game"},
+      {49, "Réduire", "Iconify"},
+      {50, "Non disponible en mode Automatique", "Not available in Automatic mode"},
+      {51, "Mode Automatique\rCliquez pour l'activer", "Automatic mode\rClick on to activate it"},
+      {52, "Mode Automatique activé\rCliquez sur STOP pour le désactiver",
+       "Automatic mode actived\rClick on STOP to desactivate it"},
+      {53, "Mode Automatique\rNon disponible", "Automatic mode\rNot available"},
+      {54, "Pour activer le mode Automatique\rCliquez sur AUTO", "To activate the automatic mode\rClick on AUTO"},
+      {55, "Cliquez pour désactiver le mode Automatique", "Click on to desactivate the automatic mode"},
+      {56, "Le mode Automatique n'est pas disponible", "The automatic mode is not available"},
+      {57, "Cliquez pour quitter TALVERO", "Click on to leave TALVERO"},
+      {58, "Pourcentages de réalisations pour le second tirage", "Average of winnings rates at second drawing"},
+      {59, "Nombre de mains possibles", "Number of winnings leads"},
+      {60, "Nombre de mains déjà tirées", "Number of already displayed leads"},
+      {61, "Pourcentages de réalisations pour le premier tirage", "Average of winnings rates at first drawing"},
+      {62, "52 Cartes (Sans Joker)", "52 Cards (No Wild)"},
+      {63, "52 Cartes + 1 Joker", "52 Cards + 1 Wild"},
+      {64, "52 Cartes + 2 Jokers", "52 Cards + 2 Wilds"},
+      {69, "Cartes X\rCliquez pour les sélectionner", "X Cards\rClick on to select them"},
+      {70, "Musique. Cliquez pour stopper la musique", "Music. Click on to play off the music"},
+      {71, "Pas de musique. Cliquez pour activer la musique", "No music. Click on to play on the music"},
+  };
+  for (const Clé& m : kMessages) {
+    Messages(m.clé) = QString::fromUtf8(m.fr);
+    if (m.en) Messages(100 + m.clé) = QString::fromUtf8(m.en);
+  }
+}
+
+namespace {
+struct Traduction {
+  const char* de;
+  const char* vers;
+};
+// Alerts recognised by their whole text. The two directions are not mirrors: a few texts stay
+// in the old language, or come back changed.
+constexpr Traduction kVersFrançais[] = {
+    {"SECOND DRAWING : Click on PLAY or press the 'Space' key.",
+     "SECOND TIRAGE : Cliquez sur JOUER ou pressez la touche 'Space'."},
+    {"FIRST DRAWING : Click on PLAY or press the 'Space' key.",
+     "PREMIER TIRAGE : Cliquez sur JOUER ou pressez la touche 'Space'."},
+    {"NEW DRAWING : Click on PLAY or press the 'Space' key.",
+     "NOUVEAU TIRAGE : Cliquez sur JOUER ou pressez la touche 'Space'."},
+    {"QUIT to collect credits, DOUBLE to risk, PLAY to collect credits and play again.",
+     "QUITTE pour encaisser, DOUBLE pour risquer, JOUER pour encaisser et rejouer."},
+    {"No more credit ! Click on the icon up on the right handside of the screen for a new game.",
+     "Crédit épuisé ! Cliquez sur l'icône situé en haut à droite de l'écran pour une nouvelle partie."},
+    {"YOU LOST ! WARNING ! No more credit ! Click on the icon up on the right handside of the screen for a new game.",
+     "PERDU ! Crédit épuisé ! Cliquez sur l'icône situé en haut à droite de l'écran pour une nouvelle partie."},
+    {"YOU LOST ! WARNING ! No more credit ! Bet back to 1.",
+     "PERDU ! ATTENTION ! Pas assez de crédit. Mises ramenées à 1."},
+    {"Choose a masked card and click on its back.", "Cliquez sur une carte face cachée de votre choix"},
+    {"WARNING ! No more credit ! Bet back to 1.", "WARNING ! Vous n'avez plus assez de crédit. Mises ramenées à 1."},
+    {"QUIT, DOUBLE or PLAY ? ATTENTION : Bet back to 1.", "QUITTE, DOUBLE ou JOUER ? ATTENTION : Mises ramenées à 1."},
+};
+constexpr Traduction kVersAnglais[] = {
+    {"SECOND TIRAGE : Cliquez sur JOUER ou pressez la touche 'Space'.",
+     "SECOND DRAWING : Click on PLAY or press the 'Space' key."},
+    {"PREMIER TIRAGE : Cliquez sur JOUER ou pressez la touche 'Space'.",
+     "FIRST DRAWING : Click on PLAY or press the 'Space' key."},
+    {"NOUVEAU TIRAGE : Cliquez sur JOUER ou pressez la touche 'Space'.",
+     "NEW DRAWING : Click on PLAY or press the 'Space' key."},
+    {"QUITTE pour encaisser, DOUBLE pour risquer, JOUER pour encaisser et rejouer.",
+     "QUIT to collect credits, DOUBLE to risk, PLAY to collect credits and play again."},
+    {"Crédit épuisé ! Cliquez sur l'icône situé en haut à droite de l'écran pour une nouvelle partie.",
+     "No more credit ! Click on the icon up on the right handside of the screen for a new game."},
+    {"PERDU ! Crédit épuisé ! Cliquez sur l'icône situé en haut à droite de l'écran pour une nouvelle partie.",
+     "YOU LOST ! WARNING ! No more credit ! Click on the icon up on the right handside of the screen for a new game."},
+    {"PERDU ! ATTENTION ! Pas assez de crédit. Mises ramenées à 1.",
+     "YOU LOST ! WARNING ! No more credit ! Bet back to 1."},
+    {"Cliquez sur une carte face cachée de votre choix", "Choose a masked card and click on its back."},
+    {"ATTENTION ! Vous n'avez plus assez de crédit. Mises ramenées à 1.", "WARNING ! No more credit ! Bet back to 1."},
+    {"QUITTE, DOUBLE ou JOUER ? ATTENTION : Mises ramenées à 1.", "QUIT, DOUBLE or PLAY ? WARNING : Bet back to 1."},
+};
+}  // namespace
+
+void JeuPoker::TraduitAlerte(bool versAnglais) {
+  const QString texte = SSAlertes->Caption();
+  for (const Traduction& t : versAnglais ? std::span(kVersAnglais) : std::span(kVersFrançais)) {
+    if (texte == QString::fromUtf8(t.de)) {
+      SSAlertes->SetCaption(QString::fromUtf8(t.vers));
+      return;
+    }
+  }
+  // A duel's result is written anew with the names of the same two cards.
+  static const char* const kDébutsAnglais[3] = {"YOU WIN", "EQUAL !", "YOU LOST"};
+  static const char* const kDébutsFrançais[3] = {"GAGNE", "QUITTE !", "PERDU"};
+  const char* const* débuts = versAnglais ? kDébutsFrançais : kDébutsAnglais;
+  static const int kIssues[3] = {1, 0, -1};
+  for (int i = 0; i < 3; ++i) {
+    if (texte.startsWith(QString::fromUtf8(débuts[i]))) {
+      SSAlertes->SetCaption(
+          TexteDuel(kIssues[i], NomsValeurs(DoubleCarte3), NomsValeurs(DoubleCarte2 * 13 + DoubleCarte1)));
+      return;
+    }
+  }
+}
+
 void JeuPoker::ModifieLangue() {
+  const bool anglais = English(Langue);
+  // 1. The language buttons and their lamps.
+  const int choisi = anglais ? 0 : 1;
+  SSLangue(choisi).SetMousePointer(12);
+  SSLangue(choisi).SetBevelWidth(0);
+  SSLangue(1 - choisi).SetMousePointer(10);
+  SSLangue(1 - choisi).SetBevelWidth(3);
+  PSSlangue(choisi).SetVisible(true);
+  PSSlangue(1 - choisi).SetVisible(false);
+  // 2. Titles and the PLAY face, drawn once for each language.
+  const int image = anglais ? 2 : 1;
+  GainsImage(0).SetPicture(GainsImage(image).GetPicture());
+  MisesImage(0).SetPicture(MisesImage(image).GetPicture());
+  JouerImage(0).SetPicture(JouerImage(image).GetPicture());
+  // 3. PLAY, and each hold word by what it says now.
+  Jouer->SetCaption(anglais ? QStringLiteral("PLAY") : QStringLiteral("JOUER"));
+  static const char* const kMotsFr[3] = {"JOUEZ", "GARDER", "JETER"};
+  static const char* const kMotsEn[3] = {"PLAY", "HOLD", "REJECT"};
+  for (int i = 0; i <= 4; ++i) {
+    for (int m = 0; m < 3; ++m) {
+      if (Jouez(i).Caption() == QLatin1String(anglais ? kMotsFr[m] : kMotsEn[m])) {
+        Jouez(i).SetCaption(QString::fromLatin1(anglais ? kMotsEn[m] : kMotsFr[m]));
+        break;
+      }
+    }
+  }
+  // 4.
+  Quitte1X5->SetCaption(anglais ? QStringLiteral("QUIT") : QStringLiteral("QUITTE"));
+  Double1X5->SetCaption(QStringLiteral("DOUBLE"));
+  Jouez5->SetCaption(anglais ? QStringLiteral("PLAY") : QStringLiteral("JOUEZ"));
+  Quitte5X5->SetCaption(anglais ? QStringLiteral("QUIT") : QStringLiteral("QUITTE"));
+  Double5X5->SetCaption(QStringLiteral("DOUBLE"));
+  Conseils5->SetCaption(anglais ? QStringLiteral("HELP") : QStringLiteral("CONSEILS"));
+  AnnuleConseils5->SetCaption(anglais ? QStringLiteral("CANCEL") : QStringLiteral("ANNULE"));
+  Mains5(12).SetCaption(QStringLiteral("GAINS"));
+  // 5-7. The name tables, and the names of the lines on the grid.
   RemplitNomsMains();
   for (int ligne = 1; ligne <= Niveau; ++ligne)
     if (!Mains5(ligne - 1).Caption().isEmpty()) Mains5(ligne - 1).SetCaption(NomsMains(MainsLignes(ligne - 1)));
   RemplitNomsValeurs();
-  ConstruitAides(English(Langue));
+  // 8. The pay table's titles.
+  static const char* const kTitresFr[12] = {
+      " 1 PAIRE ROI OU AS",   " 2 PAIRES", " BRELAN", " QUINTE", " COULEUR", " FULL", " CARRE", " QUINTE FLUSH",
+      " QUINTE FLUSH ROYALE", " POKER",    " RIEN",   " MIEUX"};
+  static const char* const kTitresEn[12] = {
+      " 1 PAIR of KINGS or ACES", " 2 PAIRS",     " 3 OF KIND", " STRAIGHT", " FLUSH",      " FULL HOUSE", " 4 OF KIND",
+      " STRAIGHT FLUSH",          " ROYAL FLUSH", " 5 OF KIND", " NOTHING",  " BETTER HAND"};
+  MainsPayantes->SetCaption(anglais ? QStringLiteral("WINNER HANDS") : QStringLiteral("MAINS PAYANTES"));
+  for (int i = 0; i <= 11; ++i) Maintitre(i).SetCaption(QString::fromUtf8(anglais ? kTitresEn[i] : kTitresFr[i]));
+  // 9-11.
+  LangueVar = anglais ? 100 : 0;
+  TraduitAlerte(anglais);
+  ConstruitAides(anglais);
 }

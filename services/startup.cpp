@@ -55,7 +55,8 @@ void JeuPoker::Form_Load() {
   });
   // 11.
   AffichageImmédiat = true;
-  // 12. The hint table comes with the hints.
+  // 12. The hint table, both languages.
+  vb::SkipOnError([&] { RemplitMessages(); });
   // 13. The deck and a new game.
   vb::SkipOnError([&] {
     NbJokers = 2;
