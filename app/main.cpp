@@ -52,6 +52,32 @@ class FirstFrameReport : public QObject {
  private:
   bool done_ = false;
 };
+
+// With TALVERO_AUTOPLAY_REPORT=SECONDS the game clicks AUTO once shown, counts the drawings
+// of the automatic mode for that many seconds, prints them and ends (scripts/measure-autoplay).
+void AutoPlayReport(JeuPoker& form, double seconds) {
+  static long count = 0;
+  static int last = 0;
+  auto* sampler = new QTimer(&form);
+  sampler->setInterval(2);
+  QObject::connect(sampler, &QTimer::timeout, [&form] {
+    // A drawing begins when the count of drawn cards enters 1..5 or 6..10 from elsewhere.
+    const int part = (form.NbTirées + 4) / 5;
+    if (part != last && part != 0) ++count;
+    last = part;
+  });
+  QTimer::singleShot(500, &form, [&form, sampler, seconds] {
+    const double start = Sys().Timer();
+    sampler->start();
+    QTimer::singleShot(static_cast<int>(seconds * 1000), &form, [start] {
+      const double elapsed = Sys().Timer() - start;
+      std::printf("drawings=%ld seconds=%.3f per-second=%.3f\n", count, elapsed, count / elapsed);
+      std::fflush(stdout);
+      std::_Exit(0);
+    });
+    form.AutoPlay->Click();
+  });
+}
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -69,5 +95,7 @@ int main(int argc, char** argv) {
   form.EndProgram = [] { std::_Exit(0); };
   form.Form_Load();
   Stage("load");
+  if (qEnvironmentVariableIsSet("TALVERO_AUTOPLAY_REPORT"))
+    AutoPlayReport(form, qEnvironmentVariable("TALVERO_AUTOPLAY_REPORT").toDouble());
   return QApplication::exec();
 }
