@@ -192,7 +192,13 @@ void Control::paintEvent(QPaintEvent*) {
 
   if (picture_ && !picture_->pixmap.isNull()) {
     const QSize ps = picture_->pixmap.deviceIndependentSize().toSize();
-    if (kind_ == ControlKind::Button) {
+    if (kind_ == ControlKind::Button && fitPicture_) {
+      const QSize fit = ps.scaled(r.size(), Qt::KeepAspectRatio);
+      QRect to(QPoint((r.width() - fit.width()) / 2, (r.height() - fit.height()) / 2), fit);
+      if (pressed_) to.translate(1, 1);
+      p.setRenderHint(QPainter::SmoothPixmapTransform);
+      p.drawPixmap(to, picture_->pixmap);
+    } else if (kind_ == ControlKind::Button) {
       QPoint at((r.width() - ps.width()) / 2, (r.height() - ps.height()) / 2);
       if (pressed_) at += QPoint(1, 1);
       p.drawPixmap(at, picture_->pixmap);

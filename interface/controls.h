@@ -71,6 +71,8 @@ class Control : public QWidget {
   void SetFontSpec(const QString& family, double points, bool bold = false);
   bool Transparent() const { return transparent_; }
   void SetTransparent(bool t);                   // a label that shows what lies beneath
+  // A button whose picture is scaled down to fit it, instead of being centred and cut.
+  void SetFitPicture(bool fit) { fitPicture_ = fit; }
   void SetLine(int x1, int y1, int x2, int y2);  // a drawn line, in parent twips
   void SetFocus();
 
@@ -109,6 +111,7 @@ class Control : public QWidget {
   Picture picture_ = nullptr;
   int alignment_ = 0;
   bool transparent_ = false;
+  bool fitPicture_ = false;
   bool pressed_ = false;
   QPoint lineFrom_, lineTo_;
 };

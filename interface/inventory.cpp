@@ -353,6 +353,8 @@ void JeuPoker::BuildControls() {
   SSMessages->SetFontSpec(kSans, 9, true);
   CartesMains = MakeArray(0, 4, [&](int i) {
     auto* b = Make(K::Button, "CartesMains", SSMessages, 105 + 630 * i, 90, 600, 975, i);
+    // The whole card, small, so that the example hand can be read.
+    b->SetFitPicture(true);
     b->SetVisible(false);
     b->SetBevelWidth(0);
     return b;
