@@ -82,6 +82,10 @@ void JeuPoker::WireEvents() {
   AutoPlay->Click = [this] { AutoPlay_Click(); };
   AutoPlayStop->Click = [this] { AutoPlayStop_Click(); };
   AutoPlayTimer->Tick = [this] { AutoPlayTimer_Timer(); };
+  SSMusic(0).Click = [this] { SSMusic_Click(); };
+  MusicTimer->Tick = [this] { MusicTimer_Timer(); };
+  NonConnectéTimer->Tick = [this] { NonConnectéTimer_Timer(); };
+  NonConnectéCmd->Click = [this] { NonConnectéCmd_Click(); };
   WireHints();
   for (int i = 0; i <= 1; ++i) SSLangue(i).Click = [this, i] { SSLangue_Click(i); };
 }
@@ -131,6 +135,13 @@ void JeuPoker::RegisterCoreVariables() {
   Bind("NbJokers", NbJokers);
   Bind("TailleJeu", TailleJeu);
   Bind("Langue", Langue);
+  Bind("MorceauCourant", MorceauCourant);
+  Bind("TempoMorceau", TempoMorceau);
+  Bind("LongueurMorceau", LongueurMorceau);
+  Bind("LargeurÉcran", LargeurÉcran);
+  Bind("HauteurÉcran", HauteurÉcran);
+  Bind("CouleursÉcran", CouleursÉcran);
+  Bind("FréquenceÉcran", FréquenceÉcran);
   Bind("Messages", Messages);
   Bind("MainsLignes", MainsLignes);
   Bind("NomsMains", NomsMains);

@@ -18,6 +18,15 @@
 #include "interface/controls.h"
 #include "interface/pictures_art.h"
 
+// The display-mode record: what the last change asked for, by field.
+struct DisplayModeRecord {
+  int width = 0;
+  int height = 0;
+  int bitsPerPixel = 0;
+  int frequency = 0;
+  unsigned fields = 0;
+};
+
 class JeuPoker : public QWidget {
  public:
   // `programDir` is the program's own directory (Ini.dat, pieces, pages).
@@ -476,6 +485,44 @@ class JeuPoker : public QWidget {
   // What ends the program (Fin_Click); the game quits the application, the driver reports.
   std::function<void()> EndProgram;
 
+  // Music: the pieces of the program directory, one after another at random.
+  QString MorceauCourant;
+  QString TempoMorceau;
+  QString LongueurMorceau;
+  void JoueMusic();
+  void MusicTimer_Timer();
+  void SSMusic_Click();
+
+  // Display mode: checked at start, changed to 1024 x 768 with the player's consent when the
+  // screen has fewer lines, and given back at the end.
+  Control* AfficheForm = nullptr;  // its own window
+  Control* AfficheLogoWeb = nullptr;
+  ControlArray<Control> AfficheLabel;
+  Control* OkOuiCmd = nullptr;
+  Control* OkNonCmd = nullptr;
+  Integer LargeurÉcran = 0;
+  Integer HauteurÉcran = 0;
+  Integer CouleursÉcran = 0;
+  Integer FréquenceÉcran = 0;
+  DisplayModeRecord ModeÉcran;  // the record the platform is given
+  void VérifieRésolution();
+  void RestaureRésolution();
+  void ChangeAffichage(Integer& largeur, Integer& hauteur, Integer& couleurs, Integer& fréquence);
+  void NoteChangement(Integer largeur, Integer hauteur, Integer couleurs, Integer fréquence, const QString& nom);
+  void OkOuiCmd_Click();
+  void OkNonCmd_Click();
+  // Set by the refusal: Form_Load goes no further (where ending the program returns, as in
+  // tests).
+  bool FinDemandée = false;
+
+  // Web panels and the no-connection notice.
+  bool NetworkStatus();
+  void NonConnectéTimer_Timer();
+  void NonConnectéCmd_Click();
+  // Where the panels' pages come from: the publisher's server when TALVERO_PUBLISHER names
+  // one, the pages shipped in the program directory otherwise.
+  QString AdresseWeb(const QString& page) const;
+
   // ---- Form-level variables by name, for talvero-drive and tests --------------------------
   struct Variable {
     int low = -1, high = -1;  // -1, -1 for a scalar
@@ -492,6 +539,7 @@ class JeuPoker : public QWidget {
  private:
   // Builds every control in its place (the inventory) and wires the events.
   void BuildControls();
+  void BuildAfficheForm();
   void WireEvents();
   // Renders the stored pictures (card faces, digits, titles) into the picture stores.
   void BuildPictures();

@@ -70,7 +70,7 @@ class Control : public QWidget {
   // A button's picture is drawn with its caption, a panel's caption is centred.
   void SetFontSpec(const QString& family, double points, bool bold = false);
   bool Transparent() const { return transparent_; }
-  void SetTransparent(bool t);                   // a label that shows what lies beneath
+  void SetTransparent(bool t);  // a label that shows what lies beneath
   // A button whose picture is scaled down to fit it, instead of being centred and cut.
   void SetFitPicture(bool fit) { fitPicture_ = fit; }
   void SetLine(int x1, int y1, int x2, int y2);  // a drawn line, in parent twips

@@ -68,13 +68,13 @@ void JeuPoker::Deal2_MouseMove(int index) {
 }
 
 void JeuPoker::Deal_MouseMove(int index) {
-  // As on the grid: the hold word between the drawings, the pick during a double-up,
+  // As on the grid: kept or rejected between the drawings, the pick during a double-up,
   // otherwise what the table waits for.
   int clé = TexteAide;
   if (DoubleEnCours)
     clé = index == 0 ? 99 : 4;
   else if (NbTirées == 5)
-    clé = Jouez(index).Caption() == MotCarteGardée() ? 12 : 11;
+    clé = Jouez(index).Caption() == MotCarteGardée() ? 3 : 2;
   else if (Jouez(0).Visible() && DitJouer(Jouez(0)))
     clé = 1;
   else

@@ -4,6 +4,7 @@
 #include <QMouseEvent>
 
 #include "interface/JeuPoker.h"
+#include "services/web.h"
 
 namespace {
 const QString kSans = QStringLiteral("Liberation Sans");
@@ -67,6 +68,8 @@ TimerControl* JeuPoker::FindTimer(const QString& name) const { return timers_.va
 std::vector<JeuPoker::NameEntry> JeuPoker::ControlNames() const {
   std::vector<NameEntry> out;
   for (auto it = controlsByName_.begin(); it != controlsByName_.end(); ++it) {
+    // The display question is a window of its own: its controls are not the main form's.
+    if (it.value().front() == AfficheForm || AfficheForm->isAncestorOf(it.value().front())) continue;
     if (arrayLow_.contains(it.key())) {
       const int low = arrayLow_.value(it.key());
       out.push_back({it.key(), low, low + static_cast<int>(it.value().size()) - 1});
@@ -100,6 +103,8 @@ void JeuPoker::BuildControls() {
   Pub1Web = Make(K::PictureBox, "Pub1Web", Pub1Pic, 0, 0, Pub1Pic->Width(), Pub1Pic->Height());
   Pub0Web->SetBackColor(0x201008);
   Pub1Web->SetBackColor(0x201008);
+  new WebPanel(Pub0Web);
+  new WebPanel(Pub1Web);
 
   Jeu = Make(K::Panel, "Jeu", nullptr, 0, 0, 12000, 8700);
   Jeu->SetBackColor(0x000000);
@@ -503,6 +508,7 @@ void JeuPoker::BuildControls() {
   LogoFondPic->SetBackColor(0x000000);
   LogoWeb = Make(K::PictureBox, "LogoWeb", LogoFondPic, 0, 0, 3000, 3000);
   LogoWeb->SetBackColor(0x000000);
+  new WebPanel(LogoWeb);
   NonConnectéLbl = Make(K::Label, "NonConnectéLbl", NonConnectéPic, 3300, 600, 3600, 1500);
   NonConnectéLbl->SetCaption(QString::fromUtf8("Vous devez être connecté à internet pour utiliser ce logiciel"));
   NonConnectéLbl->SetBackColor(0x202020);
@@ -548,6 +554,7 @@ void JeuPoker::BuildControls() {
   SSTirage->raise();
   SSAlertes->raise();
   NonConnectéPic->raise();
+  BuildAfficheForm();
   Jouer->raise();
 }
 

@@ -4,9 +4,13 @@
 #include <QDir>
 #include <QFile>
 #include <QGuiApplication>
+#include <QNetworkInformation>
 #include <QScreen>
 #include <QThread>
 #include <QTime>
+
+#include "services/music.h"
+#include "services/xrandr.h"
 
 namespace {
 Platform* current = nullptr;
@@ -75,9 +79,15 @@ bool RealPlatform::WriteRecordByte(const QString& path, std::uint8_t byte) {
   return f.flush();
 }
 
-QString RealPlatform::SendMciCommand(const QString&) { return {}; }
+QString RealPlatform::SendMciCommand(const QString& command) {
+  if (!midi_) midi_ = std::make_unique<MidiPlayer>();
+  return midi_->Send(command);
+}
 
 DisplayMode RealPlatform::CurrentDisplayMode() {
+  xrandr::Mode x;
+  if (xrandr::Current(x)) return {x.width, x.height, x.bitsPerPixel, x.frequency};
+  // Without RandR, what Qt knows of the screen.
   DisplayMode m;
   if (auto* s = QGuiApplication::primaryScreen()) {
     m.width = s->size().width();
@@ -88,16 +98,33 @@ DisplayMode RealPlatform::CurrentDisplayMode() {
   return m;
 }
 
-std::vector<DisplayMode> RealPlatform::DisplayModes() { return {CurrentDisplayMode()}; }
-bool RealPlatform::ChangeDisplayMode(const DisplayMode&) { return false; }
-void RealPlatform::RestoreDisplayMode() {}
-bool RealPlatform::Connected() { return true; }
+std::vector<DisplayMode> RealPlatform::DisplayModes() {
+  std::vector<DisplayMode> out;
+  for (const xrandr::Mode& x : xrandr::Modes()) out.push_back({x.width, x.height, x.bitsPerPixel, x.frequency});
+  if (out.empty()) out.push_back(CurrentDisplayMode());
+  return out;
+}
+
+bool RealPlatform::ChangeDisplayMode(const DisplayMode& mode) {
+  // Without RandR (Wayland, a server without the extension) the mode stays as it is.
+  return xrandr::Change({mode.width, mode.height, mode.bitsPerPixel, mode.frequency});
+}
+
+bool RealPlatform::Connected() {
+  // The system's reachability, loaded at the first question; unknown counts as connected.
+  static const bool loaded = QNetworkInformation::loadBackendByFeatures(QNetworkInformation::Feature::Reachability);
+  QNetworkInformation* info = loaded ? QNetworkInformation::instance() : nullptr;
+  if (!info) return true;
+  const auto r = info->reachability();
+  return r == QNetworkInformation::Reachability::Online || r == QNetworkInformation::Reachability::Unknown;
+}
 
 // ---------------------------------------------------------------------------------------
 
 void ScriptedPlatform::DoEvents() {
   ++yields;
   if (processQtEvents) QCoreApplication::processEvents(QEventLoop::AllEvents);
+  if (onYield) onYield();
   auto range = yieldActions_.equal_range(yields);
   std::vector<std::function<void()>> due;
   for (auto it = range.first; it != range.second; ++it) due.push_back(it->second);
@@ -140,8 +167,6 @@ bool ScriptedPlatform::ChangeDisplayMode(const DisplayMode& mode) {
     }
   return false;
 }
-
-void ScriptedPlatform::RestoreDisplayMode() { ++restores; }
 
 void ScriptedPlatform::QueueDraws(const std::vector<int>& draws) {
   queuedDraws.insert(queuedDraws.end(), draws.begin(), draws.end());

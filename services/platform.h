@@ -10,6 +10,7 @@
 #include <deque>
 #include <functional>
 #include <map>
+#include <memory>
 #include <optional>
 #include <random>
 #include <vector>
@@ -51,12 +52,14 @@ class Platform {
   // Display mode.
   virtual DisplayMode CurrentDisplayMode() = 0;
   virtual std::vector<DisplayMode> DisplayModes() = 0;
+  // A change for this run only. False when the display has no such mode or refuses.
   virtual bool ChangeDisplayMode(const DisplayMode& mode) = 0;
-  virtual void RestoreDisplayMode() = 0;
 
-  // Whether the machine has a connection to the internet.
+  // Whether the machine has a connection to the internet (unknown counts as connected).
   virtual bool Connected() = 0;
 };
+
+class MidiPlayer;
 
 // The real machine: Qt's event loop, the system clock, the file system, FluidSynth, XRandR.
 class RealPlatform : public Platform {
@@ -76,11 +79,11 @@ class RealPlatform : public Platform {
   DisplayMode CurrentDisplayMode() override;
   std::vector<DisplayMode> DisplayModes() override;
   bool ChangeDisplayMode(const DisplayMode& mode) override;
-  void RestoreDisplayMode() override;
   bool Connected() override;
 
  private:
   std::mt19937 rng_;
+  std::unique_ptr<MidiPlayer> midi_;  // made at the first multimedia command
 };
 
 // The scripted machine of tests and talvero-drive. Files are real (in the directory the
@@ -96,7 +99,6 @@ class ScriptedPlatform : public RealPlatform {
   DisplayMode CurrentDisplayMode() override { return display; }
   std::vector<DisplayMode> DisplayModes() override { return modes; }
   bool ChangeDisplayMode(const DisplayMode& mode) override;
-  void RestoreDisplayMode() override;
   bool Connected() override { return connected; }
   // A program directory that cannot be written (root ignores file permissions in tests).
   bool WriteRecordByte(const QString& path, std::uint8_t byte) override {
@@ -116,11 +118,17 @@ class ScriptedPlatform : public RealPlatform {
   double clock = 43200.0;
   std::vector<double> seeds;
   std::vector<QString> mciCommands;
-  std::map<QString, QString> mciAnswers;  // command prefix -> answer
+  // Command prefix -> answer. By default the player has a piece of a minute at 120 beats a
+  // minute that has just begun.
+  std::map<QString, QString> mciAnswers{{QStringLiteral("status sequence length"), QStringLiteral("60000")},
+                                        {QStringLiteral("status sequence position"), QStringLiteral("0")},
+                                        {QStringLiteral("status sequence tempo"), QStringLiteral("120")}};
+  // Runs at every yield, after the events (talvero-drive reads its commands there while the
+  // display question waits at start).
+  std::function<void()> onYield;
   DisplayMode display{1024, 768, 32, 60};
   std::vector<DisplayMode> modes{{800, 600, 32, 60}, {1024, 768, 32, 60}};
   std::vector<DisplayMode> displayChanges;
-  int restores = 0;
   bool connected = true;
   bool readOnlyFiles = false;
   bool processQtEvents = true;

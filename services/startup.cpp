@@ -4,6 +4,7 @@
 
 #include "interface/JeuPoker.h"
 #include "services/platform.h"
+#include "services/web.h"
 
 namespace {
 // The leftover picture of card i: the last two characters of the number's text with its
@@ -15,12 +16,17 @@ QString LeftoverPictureName(int i) {
 }  // namespace
 
 void JeuPoker::Form_Load() {
-  // 1. Display mode: the screen is checked and changed when below 768 lines (display issue).
+  // 1. Display mode: the screen is checked and changed when below 768 lines; a refusal ends
+  // the program here.
+  VérifieRésolution();
+  if (FinDemandée) return;
   // 2. Form size and the web panels' places.
   resize(15360 / kTwipsPerPixel, 11520 / kTwipsPerPixel);
   Pub0Pic->SetTop(8700);
   Pub1Pic->SetLeft(11940);
-  // 3. The web panels navigate (web panel issue).
+  // 3. The web panels show the publisher's pages.
+  if (auto* web = Pub0Web->findChild<WebPanel*>()) web->Navigate(AdresseWeb(QStringLiteral("pub0.htm")));
+  if (auto* web = Pub1Web->findChild<WebPanel*>()) web->Navigate(AdresseWeb(QStringLiteral("pub1.htm")));
   // 4. The no-connection notice is centred on the form.
   NonConnectéPic->SetLeft((width() * kTwipsPerPixel - NonConnectéPic->Width()) / 2);
   NonConnectéPic->SetTop((height() * kTwipsPerPixel - NonConnectéPic->Height()) / 2);
@@ -67,7 +73,9 @@ void JeuPoker::Form_Load() {
   vb::SkipOnError([&] { show(); });
   // 15. The statistics tables, and the panel at rest for the deck in force.
   vb::SkipOnError([&] { RemplitStatistiques(); });
-  // 16. The music (music issue).
+  // 16. The music.
+  vb::SkipOnError([&] { SSMusic(0).SetPicture(SSMusic(1).GetPicture()); });
+  vb::SkipOnError([&] { JoueMusic(); });
   vb::SkipOnError([&] { Tirage->SetFocus(); });
 }
 
@@ -85,6 +93,6 @@ void JeuPoker::Form_QueryUnload() { Fin_Click(); }
 
 void JeuPoker::Fin_Click() {
   Sys().SendMciCommand(QStringLiteral("close sequence"));
-  Sys().RestoreDisplayMode();
+  RestaureRésolution();
   if (EndProgram) EndProgram();
 }

@@ -13,7 +13,8 @@ TEST(Drive, GetPrintsNameIndexPropertyAndValue) {
   EXPECT_EQ(h.Drive1("get SSAireJeu.Visible"), "SSAireJeu.Visible=-1");
   EXPECT_EQ(h.Drive1("get Deal(4).Left"), "Deal(4).Left=9945");
   EXPECT_EQ(h.Drive1("get AutoPlay.BevelWidth"), "AutoPlay.BevelWidth=3");
-  EXPECT_EQ(h.Drive1("get TitreTimer.Interval"), "TitreTimer.Interval=500");
+  // The music sets the title's beat from the piece's tempo: 54000 / 120.
+  EXPECT_EQ(h.Drive1("get TitreTimer.Interval"), "TitreTimer.Interval=450");
   EXPECT_EQ(h.Drive1("get AutoPlayTimer.Enabled"), "AutoPlayTimer.Enabled=0");
   EXPECT_EQ(h.Drive1("get Jouer.Enabled"), "Jouer.Enabled=-1");
   EXPECT_EQ(h.Drive1("get Deal(0).Picture"), "Deal(0).Picture=Cartes(54)");

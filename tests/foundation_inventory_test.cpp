@@ -416,7 +416,8 @@ TEST(Inventory, HiddenAtStartAndJeu1ArrangementInForce) {
   EXPECT_EQ(f.AutoPlay->BevelWidth(), 3);
   EXPECT_EQ(f.ParesseOui->BevelWidth(), 0);
   EXPECT_EQ(f.ParesseNon->BevelWidth(), 3);
-  EXPECT_EQ(f.TitreTimer->Interval(), 500);
+  // The music has set the title's beat from the piece's tempo, 120 by the scripted player.
+  EXPECT_EQ(f.TitreTimer->Interval(), 54000 / 120);
   EXPECT_TRUE(f.TitreTimer->Enabled());
   EXPECT_EQ(f.AutoPlayTimer->Interval(), 400);
   EXPECT_FALSE(f.AutoPlayTimer->Enabled());

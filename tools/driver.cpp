@@ -2,13 +2,16 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QEventLoop>
 #include <QFile>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QRegularExpression>
+#include <QTimer>
 
 #include "interface/JeuPoker.h"
 #include "services/platform.h"
+#include "services/web.h"
 
 namespace {
 struct Target {
@@ -134,24 +137,61 @@ void Driver::Execute(const QString& rawLine) {
     // A picture of the window as the player sees it, as PNG.
     if (rest.isEmpty()) return Error(QStringLiteral("shot takes a file name"));
     const QString path = startDirectory.isEmpty() ? rest : QDir(startDirectory).absoluteFilePath(rest);
-    if (!form_.grab().save(path, "PNG")) Error(QStringLiteral("%1 cannot be written").arg(rest));
+    // The main form, or the display question while it waits alone at start.
+    QWidget* shown =
+        !form_.isVisible() && form_.AfficheForm->isVisible() ? static_cast<QWidget*>(form_.AfficheForm) : &form_;
+    if (!shown->grab().save(path, "PNG")) Error(QStringLiteral("%1 cannot be written").arg(rest));
   } else if (cmd == "close") {
     form_.close();
+  } else if (cmd == "mci") {
+    // The command texts sent to the music player since the last `mci`.
+    for (std::size_t i = mciShown_; i < platform_.mciCommands.size(); ++i) out_("mci=" + platform_.mciCommands[i]);
+    mciShown_ = platform_.mciCommands.size();
+  } else if (cmd == "mcianswer") {
+    const int sp = rest.indexOf(' ');
+    if (sp < 0) return Error(QStringLiteral("mcianswer takes a key and a value"));
+    platform_.mciAnswers[QStringLiteral("status sequence ") + rest.left(sp)] = rest.mid(sp + 1).trimmed();
+  } else if (cmd == "display") {
+    out_(QStringLiteral("display=%1x%2").arg(platform_.display.width).arg(platform_.display.height));
+  } else if (cmd == "net") {
+    if (rest == "on")
+      platform_.connected = true;
+    else if (rest == "off")
+      platform_.connected = false;
+    else
+      return Error(QStringLiteral("net takes on or off"));
+  } else if (cmd == "wait") {
+    // Real time passes: network replies arrive; the game's timers still fire only by `tick`.
+    bool ok = false;
+    const int ms = rest.toInt(&ok);
+    if (!ok || ms < 0) return Error(QStringLiteral("wait takes milliseconds"));
+    QEventLoop loop;
+    QTimer::singleShot(ms, &loop, &QEventLoop::quit);
+    loop.exec();
   } else {
     Error(QStringLiteral("unknown command %1").arg(cmd));
   }
   FlushDrawErrors();
 }
 
+// What a player's pointer at the centre of `c` reaches in c's window (the main form, or the
+// display question), or null when c is hidden or covered there.
+QWidget* Driver::Reached(Control* c) const {
+  QWidget* window = c->window();
+  if (!window->isVisible() || (c != window && !c->isVisibleTo(window))) return nullptr;
+  const QPoint centre = c->mapTo(window, c->rect().center());
+  QWidget* reached = c == window ? window : window->childAt(centre);
+  if (!reached || !(reached == c || c->isAncestorOf(reached))) return nullptr;
+  return reached;
+}
+
 void Driver::Click(const QString& text) {
   const Target t = ParseTarget(text, false);
   Control* c = t.ok ? form_.FindControl(t.name, t.index) : nullptr;
   if (!c) return Error(QStringLiteral("no control %1").arg(text));
-  const QPoint centre = c->mapTo(&form_, c->rect().center());
-  QWidget* reached = form_.isVisible() && c->isVisibleTo(&form_) ? form_.childAt(centre) : nullptr;
-  if (!reached || !(reached == c || c->isAncestorOf(reached)))
-    return Error(QStringLiteral("%1 cannot be reached").arg(TargetText(t)));
-  const QPointF local = reached->mapFrom(&form_, centre);
+  QWidget* reached = Reached(c);
+  if (!reached) return Error(QStringLiteral("%1 cannot be reached").arg(TargetText(t)));
+  const QPointF local = reached->mapFrom(c, c->rect().center());
   const QPointF global = reached->mapToGlobal(local);
   QPointer<QWidget> guard(reached);
   QMouseEvent press(QEvent::MouseButtonPress, local, global, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
@@ -165,11 +205,9 @@ void Driver::Move(const QString& text) {
   const Target t = ParseTarget(text, false);
   Control* c = t.ok ? form_.FindControl(t.name, t.index) : nullptr;
   if (!c) return Error(QStringLiteral("no control %1").arg(text));
-  const QPoint centre = c->mapTo(&form_, c->rect().center());
-  QWidget* reached = form_.isVisible() && c->isVisibleTo(&form_) ? form_.childAt(centre) : nullptr;
-  if (!reached || !(reached == c || c->isAncestorOf(reached)))
-    return Error(QStringLiteral("%1 cannot be reached").arg(TargetText(t)));
-  const QPointF local = reached->mapFrom(&form_, centre);
+  QWidget* reached = Reached(c);
+  if (!reached) return Error(QStringLiteral("%1 cannot be reached").arg(TargetText(t)));
+  const QPointF local = reached->mapFrom(c, c->rect().center());
   QMouseEvent move(QEvent::MouseMove, local, reached->mapToGlobal(local), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
   QApplication::sendEvent(reached, &move);
 }
@@ -234,6 +272,8 @@ void Driver::Get(const QString& text) {
     v = Bool(c->Enabled());
   else if (p == "Focus")
     v = Bool(form_.focusWidget() == c);
+  else if ((p == "Address" || p == "Text") && c->findChild<WebPanel*>())
+    v = Escape(p == "Address" ? c->findChild<WebPanel*>()->Address() : c->findChild<WebPanel*>()->Text());
   else
     return Error(QStringLiteral("unknown property %1").arg(p));
   out_(head + v);

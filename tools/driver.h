@@ -3,9 +3,12 @@
 #pragma once
 
 #include <QString>
+#include <cstddef>
 #include <functional>
 
+class Control;
 class JeuPoker;
+class QWidget;
 class ScriptedPlatform;
 
 class Driver {
@@ -18,6 +21,7 @@ class Driver {
   QString startDirectory;
 
  private:
+  QWidget* Reached(Control* c) const;
   void Click(const QString& target);
   void Move(const QString& target);
   void Key(const QString& code);
@@ -30,4 +34,5 @@ class Driver {
   JeuPoker& form_;
   ScriptedPlatform& platform_;
   std::function<void(const QString&)> out_;
+  std::size_t mciShown_ = 0;
 };

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QDirIterator>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <cstdio>
 #include <iostream>
@@ -40,14 +41,23 @@ int main(int argc, char** argv) {
   TimerControl::SetAutomatic(false);
 
   QString dir;
+  QString screen;
   const QStringList args = QCoreApplication::arguments();
   for (int i = 1; i < args.size(); ++i) {
     if (args[i] == "--dir" && i + 1 < args.size()) {
       dir = args[++i];
+    } else if (args[i] == "--screen" && i + 1 < args.size()) {
+      screen = args[++i];
     } else {
-      std::fprintf(stderr, "usage: talvero-drive [--dir DIR] < commands\n");
+      std::fprintf(stderr, "usage: talvero-drive [--dir DIR] [--screen WxH] < commands\n");
       return 2;
     }
+  }
+  static const QRegularExpression size(QStringLiteral("^(\\d{1,5})x(\\d{1,5})$"));
+  const QRegularExpressionMatch screenSize = size.match(screen);
+  if (!screen.isEmpty() && !screenSize.hasMatch()) {
+    std::fprintf(stderr, "talvero-drive: --screen takes WIDTHxHEIGHT, like 800x600\n");
+    return 2;
   }
   const QString startDirectory = QDir::currentPath();
   QTemporaryDir temp;
@@ -61,8 +71,18 @@ int main(int argc, char** argv) {
     CopyDirectory(QDir(QCoreApplication::applicationDirPath()).filePath("talvero"), dir);
   }
 
-  ScriptedPlatform platform;
+  static ScriptedPlatform platform;
   SetPlatform(&platform);
+  static bool screenGiven = false;
+  if (screenSize.hasMatch()) {
+    // The scripted display starts in that mode; it also has 1024 x 768.
+    screenGiven = true;
+    platform.display = {screenSize.captured(1).toInt(), screenSize.captured(2).toInt(), 32, 60};
+    bool known = false;
+    for (const DisplayMode& m : platform.modes)
+      known = known || (m.width == platform.display.width && m.height == platform.display.height);
+    if (!known) platform.modes.push_back(platform.display);
+  }
   vb::SetRuntimeErrorHandler([](int n) {
     Print(QStringLiteral("runtime-error %1").arg(n));
     std::_Exit(3);
@@ -70,14 +90,24 @@ int main(int argc, char** argv) {
 
   JeuPoker form(QDir(dir).absolutePath());
   form.EndProgram = [] {
+    if (screenGiven) Print(QStringLiteral("display=%1x%2").arg(platform.display.width).arg(platform.display.height));
     Print(QStringLiteral("ended"));
     std::_Exit(0);
   };
-  form.Form_Load();
-  QCoreApplication::processEvents();
-
   Driver driver(form, platform, Print);
   driver.startDirectory = startDirectory;
+
+  // While the display question waits at start, the commands read are carried out inside its
+  // yields; the end of the input leaves the tool as it does later.
+  platform.onYield = [&form, &driver] {
+    if (!form.AfficheForm->Visible() || form.isVisible()) return;
+    std::string line;
+    if (!std::getline(std::cin, line)) std::_Exit(0);
+    driver.Execute(QString::fromStdString(line));
+  };
+  form.Form_Load();
+  platform.onYield = nullptr;
+  QCoreApplication::processEvents();
   std::string line;
   while (std::getline(std::cin, line)) {
     driver.Execute(QString::fromStdString(line));

@@ -1,0 +1,24 @@
+// The rule table of the automatic card selection on plain values: which cards a sensible
+// player keeps after the first drawing, from what the evaluation left. The form's
+// GardeCartes and the command-line tools both call it.
+#pragma once
+
+#include <array>
+
+#include "core/evaluation.h"
+
+// What the rules read and change besides the evaluated hand.
+struct ÉtatSélection {
+  std::array<Byte, 5> tirage{};     // the cards by position (CartesTirage(0..4))
+  std::array<Byte, 5> positions{};  // PositionsMain: the position of each sorted card
+  std::array<bool, 5> gardées{};    // CartesGardées, by position
+};
+
+// Marks the jokers, a pair of kings or aces, and all five cards of a made straight, flush or
+// better. With `classeRien` the hands of class 10 also get the rules for draws and high
+// cards (the classic game's automatic selection; the grid does without them).
+void AppliqueRèglesSélection(const MainÉvaluée& m, ÉtatSélection& s, bool classeRien);
+
+// The holds the automatic selection gives five cards dealt in position order, as the first
+// drawing of the classic game leaves them: bit i set when position i is kept.
+unsigned SélectionAutomatique(const std::array<Byte, 5>& cartes);

@@ -1,0 +1,21 @@
+// The JSON the odds tool writes: one object for the holds of a hand, one for a return.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "odds/engine.h"
+
+namespace odds {
+
+// {"jokers":N,"hand":[codes],"holds":[{"held":[codes],"counts":[11],"total":T,"ev":X}, ...]}
+// with the held cards in the order of the hand.
+std::string HandJson(int jokers, const Hand& hand, const std::vector<Hold>& holds);
+
+// {"return":R,"fraction":"p/q","classes":[11]}
+std::string FiguresJson(const Figures& f);
+
+// The shortest decimal that reads back as v.
+std::string Number(double v);
+
+}  // namespace odds
