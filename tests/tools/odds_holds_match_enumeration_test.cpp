@@ -76,7 +76,7 @@ void ExpectSame(const Hand& deal, int jokers, const std::vector<odds::Hold>& hol
 }
 
 void ThroughTheTables(int jokers) {
-  const std::vector<Hand> deals = Deals(jokers, oddstest::kSanitized ? 12 : 1000, 1234u + jokers);
+  const std::vector<Hand> deals = Deals(jokers, oddstest::kSanitized ? 100 : 1000, 1234u + jokers);
   const auto plain = PlainAll(jokers, deals);
   const odds::Tables tables = odds::Tables::ForGame(jokers);
   for (std::size_t k = 0; k < deals.size(); ++k)
