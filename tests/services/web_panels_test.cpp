@@ -14,7 +14,11 @@ namespace {
 // records the paths.
 class PageServer {
  public:
+  PageServer(const PageServer&) = delete;
+  PageServer& operator=(const PageServer&) = delete;
   PageServer() {
+    // The server's socket needs the application's event dispatcher, made before it listens.
+    TestApp();
     server_.listen(QHostAddress::LocalHost);
     QObject::connect(&server_, &QTcpServer::newConnection, [this] {
       while (QTcpSocket* s = server_.nextPendingConnection()) {
