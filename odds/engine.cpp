@@ -170,19 +170,23 @@ std::vector<Byte> GameHandClasses(int deckSize) {
   return out;
 }
 
-std::vector<Byte> HandClasses(int deckSize, const std::function<int(const Hand&)>& classify) {
-  std::vector<Byte> out(C(deckSize, 5));
-  std::uint32_t idx = 0;
-  Hand h{};
-  for (int c4 = 4; c4 < deckSize; ++c4)
+// Calls visit(hand) for every five-card set of a deck of n cards, in colex order (the order of
+// the hands' ranks in the tables).
+template <class Visit>
+void ForEachHand(int n, Visit&& visit) {
+  for (int c4 = 4; c4 < n; ++c4)
     for (int c3 = 3; c3 < c4; ++c3)
       for (int c2 = 2; c2 < c3; ++c2)
         for (int c1 = 1; c1 < c2; ++c1)
-          for (int c0 = 0; c0 < c1; ++c0) {
-            h = {static_cast<Byte>(c0), static_cast<Byte>(c1), static_cast<Byte>(c2), static_cast<Byte>(c3),
-                 static_cast<Byte>(c4)};
-            out[idx++] = static_cast<Byte>(classify(h));
-          }
+          for (int c0 = 0; c0 < c1; ++c0)
+            visit(Hand{static_cast<Byte>(c0), static_cast<Byte>(c1), static_cast<Byte>(c2), static_cast<Byte>(c3),
+                       static_cast<Byte>(c4)});
+}
+
+std::vector<Byte> HandClasses(int deckSize, const std::function<int(const Hand&)>& classify) {
+  std::vector<Byte> out(C(deckSize, 5));
+  std::uint32_t idx = 0;
+  ForEachHand(deckSize, [&](const Hand& h) { out[idx++] = static_cast<Byte>(classify(h)); });
   return out;
 }
 
@@ -457,26 +461,19 @@ struct Canonical {
 // decreasing sets of ranks. Its class has 24 / (product of k! over k equal sets) deals.
 std::vector<Canonical> CanonicalDeals(int n) {
   std::vector<Canonical> out;
-  Hand h{};
-  for (int c4 = 4; c4 < n; ++c4)
-    for (int c3 = 3; c3 < c4; ++c3)
-      for (int c2 = 2; c2 < c3; ++c2)
-        for (int c1 = 1; c1 < c2; ++c1)
-          for (int c0 = 0; c0 < c1; ++c0) {
-            h = {static_cast<Byte>(c0), static_cast<Byte>(c1), static_cast<Byte>(c2), static_cast<Byte>(c3),
-                 static_cast<Byte>(c4)};
-            std::uint64_t bits = 0;
-            for (Byte c : h)
-              if (c < 52) bits |= std::uint64_t{1} << c;
-            const auto m = SuitMasks(bits);
-            if (m[0] < m[1] || m[1] < m[2] || m[2] < m[3]) continue;
-            std::uint32_t stabiliser = 1;
-            for (int i = 0, run = 1; i < 4; ++i) {
-              run = i > 0 && m[i] == m[i - 1] ? run + 1 : 1;
-              stabiliser *= static_cast<std::uint32_t>(run);
-            }
-            out.push_back({h, 24 / stabiliser});
-          }
+  ForEachHand(n, [&](const Hand& h) {
+    std::uint64_t bits = 0;
+    for (Byte c : h)
+      if (c < 52) bits |= std::uint64_t{1} << c;
+    const auto m = SuitMasks(bits);
+    if (m[0] < m[1] || m[1] < m[2] || m[2] < m[3]) return;
+    std::uint32_t stabiliser = 1;
+    for (int i = 0, run = 1; i < 4; ++i) {
+      run = i > 0 && m[i] == m[i - 1] ? run + 1 : 1;
+      stabiliser *= static_cast<std::uint32_t>(run);
+    }
+    out.push_back({h, 24 / stabiliser});
+  });
   return out;
 }
 
