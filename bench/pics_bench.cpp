@@ -15,7 +15,7 @@ namespace {
 // Parsing the deck, as the first form of a process does.
 void BM_DeckParse(benchmark::State& state) {
   for (auto _ : state) {
-    QSvgRenderer deck(QStringLiteral(TALVERO_CARD_DECK));
+    QSvgRenderer deck(pics::DeckFile());
     benchmark::DoNotOptimize(deck.isValid());
   }
 }
@@ -23,7 +23,7 @@ BENCHMARK(BM_DeckParse)->Unit(benchmark::kMillisecond);
 
 // The 55 full-size faces alone, from a parsed deck.
 void BM_CardFaces(benchmark::State& state) {
-  QSvgRenderer& deck = pics::Deck();
+  QSvgRenderer deck(pics::DeckFile());
   for (auto _ : state) {
     for (int code = 0; code <= 54; ++code)
       benchmark::DoNotOptimize(pics::CardFace(deck, code, QSize(88, 133), 1).bits());
@@ -33,7 +33,7 @@ BENCHMARK(BM_CardFaces)->Unit(benchmark::kMillisecond);
 
 // The 54 smaller faces of the grid.
 void BM_SmallCardFaces(benchmark::State& state) {
-  QSvgRenderer& deck = pics::Deck();
+  QSvgRenderer deck(pics::DeckFile());
   for (auto _ : state) {
     for (int code = 0; code <= 53; ++code) benchmark::DoNotOptimize(pics::SmallCardFace(deck, code, QSize(65, 87), 1));
   }
@@ -61,10 +61,35 @@ void BM_TextPictures(benchmark::State& state) {
 }
 BENCHMARK(BM_TextPictures)->Unit(benchmark::kMillisecond);
 
-// BuildPictures as the form runs it, the deck already parsed; only its own time counts.
+// From a cold start of the card worker (deck not parsed): until the back, which the first
+// frame shows, can be painted.
+void BM_CardWorkerBackReady(benchmark::State& state) {
+  const pics::CardFaces::Sizes sizes{QSize(88, 133), 55, QSize(65, 87), 54, 1};
+  for (auto _ : state) {
+    pics::CardFaces faces(sizes);
+    benchmark::DoNotOptimize(faces.Face(54).isNull());
+    state.PauseTiming();
+    faces.WaitAll();
+    state.ResumeTiming();
+  }
+}
+BENCHMARK(BM_CardWorkerBackReady)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+// From a cold start of the card worker until every face of both sizes is drawn and the deck
+// released: the longest a first deal could wait.
+void BM_CardWorkerAllFaces(benchmark::State& state) {
+  const pics::CardFaces::Sizes sizes{QSize(88, 133), 55, QSize(65, 87), 54, 1};
+  for (auto _ : state) {
+    pics::CardFaces faces(sizes);
+    faces.WaitAll();
+  }
+}
+BENCHMARK(BM_CardWorkerAllFaces)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+// BuildPictures as the form runs it, the card faces already rendered for the process; only
+// its own time counts.
 void BM_BuildPictures(benchmark::State& state) {
   QTemporaryDir dir;
-  pics::Deck();
   double cpu = 0;
   for (auto _ : state) {
     JeuPoker form(dir.path());
@@ -78,7 +103,7 @@ BENCHMARK(BM_BuildPictures)->UseManualTime()->Unit(benchmark::kMillisecond);
 
 }  // namespace
 
-// The first form of the process pays for the deck's parse and the fonts' loading.
+// The first form of the process pays for the fonts' loading; the cards render on a worker.
 void ReportFirstBuildPictures() {
   QTemporaryDir dir;
   JeuPoker form(dir.path());

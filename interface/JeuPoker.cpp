@@ -4,10 +4,12 @@
 #include <QKeyEvent>
 
 #include "interface/bind.h"
+#include "services/startup_stages.h"
 
 int VbKeyCode(const QKeyEvent* e);
 
-JeuPoker::JeuPoker(const QString& programDir) : programDir_(programDir) {
+JeuPoker::JeuPoker(const QString& programDir, const QString& dataDir)
+    : programDir_(programDir), dataDir_(dataDir.isEmpty() ? programDir : dataDir) {
   setObjectName("JeuPoker");
   setWindowTitle("MONTALBERGUES");
   setFixedSize(1024, 768);
@@ -17,9 +19,11 @@ JeuPoker::JeuPoker(const QString& programDir) : programDir_(programDir) {
   setPalette(pal);
   // The card faces take longest: they render on a worker while the controls are built.
   const qreal dpr = qGuiApp ? qGuiApp->devicePixelRatio() : 1.0;
-  cardsInFlight_ = pics::RenderCards(QSize(88, 133), 55, QSize(65, 87), 54, dpr);
+  cardFaces_ = pics::CardFaces::For({QSize(88, 133), 55, QSize(65, 87), 54, dpr});
   BuildControls();
+  StartupStage("controls");
   BuildPictures();
+  StartupStage("pictures");
   WireEvents();
   RegisterVariables();
   // Keys reach the form first, then the control with the focus.
@@ -29,6 +33,11 @@ JeuPoker::JeuPoker(const QString& programDir) : programDir_(programDir) {
 JeuPoker::~JeuPoker() { qApp->removeEventFilter(this); }
 
 bool JeuPoker::eventFilter(QObject* watched, QEvent* event) {
+  // Once the form has painted its first frame, the card worker goes on to the faces.
+  if (event->type() == QEvent::Paint && watched == this && cardFaces_ && !facesGoOn_) {
+    facesGoOn_ = true;
+    cardFaces_->Continue();
+  }
   if (event->type() == QEvent::KeyPress) {
     auto* w = qobject_cast<QWidget*>(watched);
     if (w && w != this && isAncestorOf(w)) {

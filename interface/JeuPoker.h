@@ -29,11 +29,13 @@ struct DisplayModeRecord {
 
 class JeuPoker : public QWidget {
  public:
-  // `programDir` is the program's own directory (Ini.dat, pieces, pages).
-  explicit JeuPoker(const QString& programDir);
+  // `programDir` is the program's own directory (Ini.dat); `dataDir` holds the pieces and
+  // the pages, and is the program directory unless given (see services/program_dir.h).
+  explicit JeuPoker(const QString& programDir, const QString& dataDir = QString());
   ~JeuPoker() override;
 
   const QString& ProgramDir() const { return programDir_; }
+  const QString& DataDir() const { return dataDir_; }
 
   // ---- Controls -------------------------------------------------------------------------
   Control* Jeu = nullptr;
@@ -544,6 +546,7 @@ class JeuPoker : public QWidget {
   // Renders the stored pictures (card faces, digits, titles) into the picture stores.
   void BuildPictures();
   Picture StorePicture(const QString& name, const QPixmap& pixmap);
+  Picture StorePicture(const QString& name, std::function<QPixmap()> draw);
 
   Control* Make(ControlKind kind, const QString& name, Control* parent, int left, int top, int width, int height,
                 int index = -1);
@@ -562,10 +565,12 @@ class JeuPoker : public QWidget {
   void Bind(const QString& name, vb::Array<T, Lo, Hi>& array);
 
   QString programDir_;
+  QString dataDir_;
   QHash<QString, std::vector<Control*>> controlsByName_;  // index order; singles at [0]
   QHash<QString, int> arrayLow_;
   QHash<QString, TimerControl*> timers_;
   std::vector<std::unique_ptr<StoredPicture>> pictures_;
-  std::future<pics::CardImages> cardsInFlight_;  // card faces rendering while the form is built
+  std::shared_ptr<pics::CardFaces> cardFaces_;  // rendering on a worker while the form is built
+  bool facesGoOn_ = false;                      // the worker was told the first frame is out
   QHash<QString, Variable> variables_;
 };

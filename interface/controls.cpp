@@ -190,20 +190,20 @@ void Control::paintEvent(QPaintEvent*) {
   const bool pressedLook = kind_ == ControlKind::Button && (pressed_ || bevelWidth_ <= 1);
   if (!(kind_ == ControlKind::Label && transparent_) && kind_ != ControlKind::Image) p.fillRect(r, VbColor(backColor_));
 
-  if (picture_ && !picture_->pixmap.isNull()) {
-    const QSize ps = picture_->pixmap.deviceIndependentSize().toSize();
+  if (picture_ && !picture_->Pixmap().isNull()) {
+    const QSize ps = picture_->Pixmap().deviceIndependentSize().toSize();
     if (kind_ == ControlKind::Button && fitPicture_) {
       const QSize fit = ps.scaled(r.size(), Qt::KeepAspectRatio);
       QRect to(QPoint((r.width() - fit.width()) / 2, (r.height() - fit.height()) / 2), fit);
       if (pressed_) to.translate(1, 1);
       p.setRenderHint(QPainter::SmoothPixmapTransform);
-      p.drawPixmap(to, picture_->pixmap);
+      p.drawPixmap(to, picture_->Pixmap());
     } else if (kind_ == ControlKind::Button) {
       QPoint at((r.width() - ps.width()) / 2, (r.height() - ps.height()) / 2);
       if (pressed_) at += QPoint(1, 1);
-      p.drawPixmap(at, picture_->pixmap);
+      p.drawPixmap(at, picture_->Pixmap());
     } else {
-      p.drawPixmap(QPoint(0, 0), picture_->pixmap);
+      p.drawPixmap(QPoint(0, 0), picture_->Pixmap());
     }
   }
 

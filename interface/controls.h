@@ -19,10 +19,24 @@
 constexpr int kTwipsPerPixel = 15;
 
 // A picture with identity. Controls hold a pointer to it; two controls show "the same
-// picture" exactly when they hold the same pointer.
-struct StoredPicture {
-  QString name;
-  QPixmap pixmap;
+// picture" exactly when they hold the same pointer. A picture may be drawn only when first
+// shown (the card faces come from a worker).
+class StoredPicture {
+ public:
+  StoredPicture(QString name, QPixmap pixmap) : name(std::move(name)), pixmap_(std::move(pixmap)) {}
+  StoredPicture(QString name, std::function<QPixmap()> draw) : name(std::move(name)), draw_(std::move(draw)) {}
+  const QString name;
+  const QPixmap& Pixmap() const {
+    if (draw_) {
+      pixmap_ = draw_();
+      draw_ = nullptr;
+    }
+    return pixmap_;
+  }
+
+ private:
+  mutable QPixmap pixmap_;
+  mutable std::function<QPixmap()> draw_;
 };
 using Picture = const StoredPicture*;
 

@@ -1,5 +1,9 @@
 #include "interface/pictures_art.h"
 
+#include <malloc.h>
+#include <zlib.h>
+
+#include <QFile>
 #include <QFont>
 #include <QFontMetricsF>
 #include <QImage>
@@ -7,12 +11,16 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QRadialGradient>
+#include <QRegularExpression>
+#include <QSet>
 #include <QSvgRenderer>
 #include <QTransform>
 #include <array>
+#include <cctype>
 #include <cmath>
 #include <ctime>
-#include <future>
+
+#include "services/startup_stages.h"
 
 #ifndef TALVERO_CARD_DECK
 #define TALVERO_CARD_DECK "/usr/share/carddecks/svg-nicu-white/white.svgz"
@@ -64,6 +72,8 @@ QPainterPath TextPath(const QString& text, const QFont& font, QPointF centre, qr
   return t.map(path);
 }
 
+}  // namespace
+
 // The deck's element ids: ranks two..ace, suits clubs, diamonds, hearts, spades.
 QString CardElement(int code) {
   static const char* const ranks[13] = {"2", "3", "4", "5", "6", "7", "8", "9", "10", "jack", "queen", "king", "1"};
@@ -73,8 +83,6 @@ QString CardElement(int code) {
   if (code == 54) return QStringLiteral("back_c9");
   return QStringLiteral("%1_%2").arg(QLatin1String(ranks[code % 13]), QLatin1String(suits[code / 13]));
 }
-
-}  // namespace
 
 namespace {
 BuildTime lastBuildTime;
@@ -87,24 +95,209 @@ double ThreadCpuSeconds() {
   return static_cast<double>(ts.tv_sec) + static_cast<double>(ts.tv_nsec) / 1e9;
 }
 
-QSvgRenderer& Deck() {
-  // Parsed on first use and kept for the life of the process, so that every form built in
-  // it reuses the parsed deck. Only one thread at a time renders with it: the worker of
-  // RenderCards, which the form waits for.
-  static QSvgRenderer* deck = new QSvgRenderer(QStringLiteral(TALVERO_CARD_DECK));
-  return *deck;
+QString DeckFile() { return QStringLiteral(TALVERO_CARD_DECK); }
+
+namespace {
+// The text of a file, inflated when it is gzip-compressed (an .svgz).
+QByteArray ReadInflated(const QString& path) {
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) return {};
+  const QByteArray raw = file.readAll();
+  if (raw.size() < 2 || static_cast<unsigned char>(raw[0]) != 0x1f || static_cast<unsigned char>(raw[1]) != 0x8b)
+    return raw;
+  z_stream z{};
+  if (inflateInit2(&z, 16 + MAX_WBITS) != Z_OK) return {};
+  QByteArray out;
+  z.next_in = reinterpret_cast<Bytef*>(const_cast<char*>(raw.constData()));
+  z.avail_in = static_cast<uInt>(raw.size());
+  int status = Z_OK;
+  while (status == Z_OK) {
+    const qsizetype done = out.size();
+    out.resize(done + std::max<qsizetype>(raw.size() * 4, 1 << 16));
+    z.next_out = reinterpret_cast<Bytef*>(out.data() + done);
+    z.avail_out = static_cast<uInt>(out.size() - done);
+    status = inflate(&z, Z_NO_FLUSH);
+    out.resize(out.size() - z.avail_out);
+  }
+  inflateEnd(&z);
+  return status == Z_STREAM_END ? out : QByteArray();
 }
 
-std::future<CardImages> RenderCards(QSize faceSize, int faces, QSize smallSize, int smalls, qreal dpr) {
-  return std::async(std::launch::async, [=] {
-    QSvgRenderer& deck = Deck();
-    CardImages out;
-    out.faces.reserve(static_cast<std::size_t>(faces));
-    out.small.reserve(static_cast<std::size_t>(smalls));
-    for (int code = 0; code < faces; ++code) out.faces.push_back(CardFace(deck, code, faceSize, dpr));
-    for (int code = 0; code < smalls; ++code) out.small.push_back(SmallCardFace(deck, code, smallSize, dpr));
-    return out;
-  });
+// The element whose start tag holds `id="ID"`: its start and end offsets in `text`.
+struct Span {
+  qsizetype from = -1, to = -1;
+};
+Span ElementWithId(const QByteArray& text, const QByteArray& id) {
+  const qsizetype at = text.indexOf("id=\"" + id + "\"");
+  if (at < 0) return {};
+  const qsizetype from = text.lastIndexOf('<', at);
+  const qsizetype startEnd = text.indexOf('>', at);
+  if (from < 0 || startEnd < 0) return {};
+  qsizetype nameEnd = from + 1;
+  while (nameEnd < text.size() && !std::isspace(static_cast<unsigned char>(text[nameEnd])) && text[nameEnd] != '>' &&
+         text[nameEnd] != '/')
+    ++nameEnd;
+  const QByteArray name = text.mid(from + 1, nameEnd - from - 1);
+  if (text[startEnd - 1] == '/') return {from, startEnd + 1};
+  // Elements of the same name may nest (groups in groups): count them to the matching end.
+  int depth = 0;
+  qsizetype pos = startEnd + 1;
+  while (pos < text.size()) {
+    const qsizetype open = text.indexOf("<" + name, pos), close = text.indexOf("</" + name + ">", pos);
+    if (close < 0) return {};
+    if (open >= 0 && open < close) {
+      const char after = open + 1 + name.size() < text.size() ? text[open + 1 + name.size()] : '>';
+      const qsizetype end = text.indexOf('>', open);
+      if ((std::isspace(static_cast<unsigned char>(after)) || after == '>') && end > 0 && text[end - 1] != '/') ++depth;
+      pos = open + 1;
+      continue;
+    }
+    if (depth == 0) return {from, close + name.size() + 3};
+    --depth;
+    pos = close + 1;
+  }
+  return {};
+}
+
+// The start tags of the groups that enclose `at`, outermost first.
+QByteArray EnclosingGroups(const QByteArray& text, qsizetype bodyFrom, qsizetype at) {
+  std::vector<std::pair<qsizetype, qsizetype>> open;  // start tags still open
+  qsizetype pos = bodyFrom;
+  while (true) {
+    const qsizetype lt = text.indexOf('<', pos);
+    if (lt < 0 || lt >= at) break;
+    const qsizetype gt = text.indexOf('>', lt);
+    if (gt < 0) break;
+    if (text.mid(lt, 3) == "</g" && !open.empty())
+      open.pop_back();
+    else if (text.mid(lt, 2) == "<g" &&
+             (std::isspace(static_cast<unsigned char>(text[lt + 2])) || text[lt + 2] == '>') && text[gt - 1] != '/')
+      open.emplace_back(lt, gt + 1);
+    pos = gt + 1;
+  }
+  QByteArray out;
+  for (const auto& [from, to] : open) out += text.mid(from, to - from);
+  return out;
+}
+}  // namespace
+
+QByteArray DeckElementDocument(const QString& deckFile, const QString& id) {
+  const QByteArray text = ReadInflated(deckFile);
+  const qsizetype root = text.indexOf("<svg");
+  const qsizetype rootEnd = root < 0 ? -1 : text.indexOf('>', root);
+  const Span element = ElementWithId(text, id.toUtf8());
+  if (rootEnd < 0 || element.from < 0) return {};
+  QByteArray body = text.mid(element.from, element.to - element.from);
+  // What the element refers to (gradients, and what they refer to in turn) goes into defs.
+  static const QRegularExpression reference(QStringLiteral("url\\(#([^)]+)\\)|href=\"#([^\"]+)\""));
+  QByteArray defs;
+  QSet<QByteArray> seen;
+  std::vector<QByteArray> pending{body};
+  while (!pending.empty()) {
+    const QString fragment = QString::fromUtf8(pending.back());
+    pending.pop_back();
+    for (auto it = reference.globalMatch(fragment); it.hasNext();) {
+      const auto match = it.next();
+      const QByteArray ref = (match.captured(1).isEmpty() ? match.captured(2) : match.captured(1)).toUtf8();
+      if (seen.contains(ref)) continue;
+      seen.insert(ref);
+      const Span target = ElementWithId(text, ref);
+      if (target.from < 0) continue;
+      const QByteArray piece = text.mid(target.from, target.to - target.from);
+      defs += piece;
+      pending.push_back(piece);
+    }
+  }
+  const QByteArray groups = EnclosingGroups(text, rootEnd + 1, element.from);
+  const QByteArray closing = QByteArray("</g>").repeated(groups.count("<g"));
+  return text.mid(root, rootEnd + 1 - root) + "<defs>" + defs + "</defs>" + groups + body + closing + "</svg>";
+}
+
+std::shared_ptr<CardFaces> CardFaces::For(const Sizes& sizes) {
+  // Every form of the process shares the faces of its sizes: the game has one form, the
+  // tests and the benchmarks build many.
+  static std::mutex cacheMutex;
+  static std::vector<std::shared_ptr<CardFaces>> cache;
+  const std::lock_guard lock(cacheMutex);
+  for (const auto& faces : cache)
+    if (faces->sizes_ == sizes) return faces;
+  cache.push_back(std::make_shared<CardFaces>(sizes));
+  return cache.back();
+}
+
+CardFaces::CardFaces(const Sizes& sizes)
+    : sizes_(sizes),
+      faces_(static_cast<std::size_t>(sizes.faces)),
+      small_(static_cast<std::size_t>(sizes.smalls)),
+      worker_([this] { Render(); }) {}
+
+CardFaces::~CardFaces() {
+  Continue();
+  worker_.join();
+}
+
+void CardFaces::Continue() {
+  const std::lock_guard lock(mutex_);
+  goOn_ = true;
+  drawn_.notify_all();
+}
+
+void CardFaces::Render() {
+  auto publish = [&](std::vector<Slot>& store, int code, QImage image) {
+    const std::lock_guard lock(mutex_);
+    store[static_cast<std::size_t>(code)].image = std::move(image);
+    store[static_cast<std::size_t>(code)].drawn = true;
+    drawn_.notify_all();
+  };
+  // The back comes from a document holding only the back: a fiftieth of the deck, parsed in
+  // a moment. The whole deck is parsed once the first frame is out.
+  const int back = sizes_.faces - 1;
+  {
+    QSvgRenderer alone(DeckElementDocument(DeckFile(), CardElement(back)));
+    if (alone.isValid() && alone.elementExists(CardElement(back)))
+      publish(faces_, back, CardFace(alone, back, sizes_.face, sizes_.dpr));
+  }
+  StartupStage("cards:back");
+  {
+    std::unique_lock lock(mutex_);
+    drawn_.wait(lock, [&] { return goOn_; });
+  }
+  auto deck = std::make_unique<QSvgRenderer>(DeckFile());
+  StartupStage("deck");
+  if (!faces_[static_cast<std::size_t>(back)].drawn)
+    publish(faces_, back, CardFace(*deck, back, sizes_.face, sizes_.dpr));
+  for (int code = 0; code < back; ++code) publish(faces_, code, CardFace(*deck, code, sizes_.face, sizes_.dpr));
+  for (int code = 0; code < sizes_.smalls; ++code)
+    publish(small_, code, SmallCardFace(*deck, code, sizes_.small, sizes_.dpr));
+  // The parsed deck is a few megabytes of small blocks: hand them back to the system.
+  deck.reset();
+  malloc_trim(0);
+  const std::lock_guard lock(mutex_);
+  finished_ = true;
+  drawn_.notify_all();
+  StartupStage("cards:all");
+}
+
+QPixmap CardFaces::Take(std::vector<Slot>& store, int code) {
+  std::unique_lock lock(mutex_);
+  Slot& slot = store.at(static_cast<std::size_t>(code));
+  if (!slot.drawn) {
+    // Wanted before the first frame let the worker go on: it goes on now.
+    goOn_ = true;
+    drawn_.notify_all();
+    drawn_.wait(lock, [&] { return slot.drawn; });
+  }
+  if (slot.pixmap.isNull() && !slot.image.isNull()) slot.pixmap = QPixmap::fromImage(std::move(slot.image));
+  return slot.pixmap;
+}
+
+QPixmap CardFaces::Face(int code) { return Take(faces_, code); }
+QPixmap CardFaces::Small(int code) { return Take(small_, code); }
+
+void CardFaces::WaitAll() {
+  Continue();
+  std::unique_lock lock(mutex_);
+  drawn_.wait(lock, [&] { return finished_; });
 }
 
 QImage CardFace(QSvgRenderer& deck, int code, QSize size, qreal dpr) {

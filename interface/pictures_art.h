@@ -9,7 +9,10 @@
 #include <QPixmap>
 #include <QSize>
 #include <QString>
-#include <future>
+#include <condition_variable>
+#include <memory>
+#include <mutex>
+#include <thread>
 #include <vector>
 
 class QSvgRenderer;
@@ -27,22 +30,67 @@ void SetLastBuildTime(BuildTime t);
 // The calling thread's processor time, in seconds.
 double ThreadCpuSeconds();
 
-// The SVG deck, parsed once for the whole process.
-QSvgRenderer& Deck();
-
 // Card `code` (0..51 by 13 x suit + rank, 52 and 53 the jokers, 54 the back) at full size,
 // filling `size` exactly.
 QImage CardFace(QSvgRenderer& deck, int code, QSize size, qreal dpr);
 // The smaller face of the grid: the card keeps its own proportions and is centred in `size`.
 QImage SmallCardFace(QSvgRenderer& deck, int code, QSize size, qreal dpr);
+// The deck's file.
+QString DeckFile();
+// A document of the deck's file holding only the element `id` (with the groups around it and
+// what it refers to), for drawing that card without parsing the whole deck. Empty when the
+// file or the element cannot be found.
+QByteArray DeckElementDocument(const QString& deckFile, const QString& id);
+// The deck's element id of card `code`.
+QString CardElement(int code);
 
-// Every card in both sizes, codes 0..faces-1 and 0..smalls-1, rendered on a worker thread
-// (parsing the deck there the first time) while the caller draws the rest.
-struct CardImages {
-  std::vector<QImage> faces;
-  std::vector<QImage> small;
+// Every card face in two sizes (codes 0..faces-1 full size, 0..smalls-1 small), rendered once
+// per process on a worker thread: the back first, since the first frame shows only backs,
+// then the faces in code order. The parsed deck is dropped after the last face, so it does
+// not stay in memory. Faces are handed out on the GUI thread; asking for one the worker has
+// not reached yet waits for it.
+class CardFaces {
+ public:
+  struct Sizes {
+    QSize face;
+    int faces = 0;
+    QSize small;
+    int smalls = 0;
+    qreal dpr = 1;
+    bool operator==(const Sizes&) const = default;
+  };
+  // The process's faces of these sizes, their rendering started on first request.
+  static std::shared_ptr<CardFaces> For(const Sizes& sizes);
+  explicit CardFaces(const Sizes& sizes);
+  ~CardFaces();
+  CardFaces(const CardFaces&) = delete;
+  CardFaces& operator=(const CardFaces&) = delete;
+
+  QPixmap Face(int code);
+  QPixmap Small(int code);
+  // The worker draws the back, then waits to be told to go on (the first frame is out, or a
+  // face is wanted) before it parses the deck for the faces.
+  void Continue();
+  // Waits until every face is drawn and the deck is released.
+  void WaitAll();
+
+ private:
+  struct Slot {
+    QImage image;    // from the worker
+    QPixmap pixmap;  // made from the image on the GUI thread, at first use
+    bool drawn = false;
+  };
+  QPixmap Take(std::vector<Slot>& store, int code);
+  void Render();
+
+  Sizes sizes_;
+  std::vector<Slot> faces_, small_;
+  bool finished_ = false;
+  bool goOn_ = false;
+  std::mutex mutex_;
+  std::condition_variable drawn_;
+  std::thread worker_;
 };
-std::future<CardImages> RenderCards(QSize faceSize, int faces, QSize smallSize, int smalls, qreal dpr);
 
 // Digit pictures of the amount displays.
 enum class DigitColour { Red, Blue, Grey };

@@ -59,7 +59,7 @@ void JeuPoker::VérifieRésolution() {
   if (HauteurÉcran >= 768) return;
 
   // The question, in the middle of the screen, until one of its buttons is pressed.
-  if (auto* web = AfficheLogoWeb->findChild<WebPanel*>()) web->Navigate(QDir(programDir_).filePath("logoalb200.htm"));
+  if (auto* web = AfficheLogoWeb->findChild<WebPanel*>()) web->Navigate(QDir(dataDir_).filePath("logoalb200.htm"));
   AfficheForm->move(std::max(0, (actuel.width - AfficheForm->width()) / 2),
                     std::max(0, (actuel.height - AfficheForm->height()) / 2));
   AfficheForm->SetVisible(true);

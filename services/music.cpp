@@ -3,11 +3,13 @@
 #include <QFile>
 #include <QFileInfo>
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <cstdint>
+#include <limits>
 
 #ifdef TALVERO_HAVE_FLUIDSYNTH
-#include <fluidsynth.h>
+#include "services/fluidsynth_library.h"
 #endif
 
 // --- Timing of a MIDI file ----------------------------------------------------------------
@@ -174,9 +176,11 @@ QString GeneralMidiSoundFont() {
 #ifdef TALVERO_HAVE_FLUIDSYNTH
 namespace {
 
+const FluidSynthLibrary& Fs() { return *FluidSynth(); }
+
 // FluidSynth reports a missing sound device as an error; for the game that only means silence.
 void QuietFluidSynth() {
-  for (int level : {FLUID_ERR, FLUID_WARN, FLUID_INFO, FLUID_DBG}) fluid_set_log_function(level, nullptr, nullptr);
+  for (int level : {FLUID_ERR, FLUID_WARN, FLUID_INFO, FLUID_DBG}) Fs().fluid_set_log_function(level, nullptr, nullptr);
 }
 
 // A synthesizer with the General MIDI SoundFont loaded.
@@ -185,22 +189,23 @@ struct Synth {
   fluid_synth_t* synth = nullptr;
 
   explicit Synth(bool toFile) {
+    if (!FluidSynth()) return;
     QuietFluidSynth();
-    settings = new_fluid_settings();
+    settings = Fs().new_fluid_settings();
     if (!settings) return;
-    fluid_settings_setnum(settings, "synth.sample-rate", 44100.0);
-    fluid_settings_setnum(settings, "synth.gain", 0.5);
-    if (toFile) fluid_settings_setstr(settings, "player.timing-source", "sample");
-    synth = new_fluid_synth(settings);
+    Fs().fluid_settings_setnum(settings, "synth.sample-rate", 44100.0);
+    Fs().fluid_settings_setnum(settings, "synth.gain", 0.5);
+    if (toFile) Fs().fluid_settings_setstr(settings, "player.timing-source", "sample");
+    synth = Fs().new_fluid_synth(settings);
   }
   bool LoadSoundFont() {
     const QString font = GeneralMidiSoundFont();
     return synth && !font.isEmpty() &&
-           fluid_synth_sfload(synth, QFile::encodeName(font).constData(), 1) != FLUID_FAILED;
+           Fs().fluid_synth_sfload(synth, QFile::encodeName(font).constData(), 1) != FLUID_FAILED;
   }
   ~Synth() {
-    if (synth) delete_fluid_synth(synth);
-    if (settings) delete_fluid_settings(settings);
+    if (synth) Fs().delete_fluid_synth(synth);
+    if (settings) Fs().delete_fluid_settings(settings);
   }
   Synth(const Synth&) = delete;
   Synth& operator=(const Synth&) = delete;
@@ -220,22 +225,22 @@ bool RenderMidiToWav(const QString& midiPath, const QString& wavPath) {
   if (!timing) return false;
   Synth s(true);
   if (!s.LoadSoundFont()) return false;
-  fluid_player_t* player = new_fluid_player(s.synth);
+  fluid_player_t* player = Fs().new_fluid_player(s.synth);
   if (!player) return false;
   QByteArray pcm;
-  if (fluid_player_add_mem(player, midi.constData(), static_cast<size_t>(midi.size())) == FLUID_OK &&
-      fluid_player_play(player) == FLUID_OK) {
+  if (Fs().fluid_player_add_mem(player, midi.constData(), static_cast<size_t>(midi.size())) == FLUID_OK &&
+      Fs().fluid_player_play(player) == FLUID_OK) {
     constexpr int kFrames = 512;
     std::vector<std::int16_t> block(2 * kFrames);
     // The player lets the last notes ring on for a while; the rendering stops where the piece does.
-    while (fluid_player_get_status(player) == FLUID_PLAYER_PLAYING &&
-           timing->MsAt(fluid_player_get_current_tick(player)) < timing->lengthMs) {
-      if (fluid_synth_write_s16(s.synth, kFrames, block.data(), 0, 2, block.data(), 1, 2) != FLUID_OK) break;
+    while (Fs().fluid_player_get_status(player) == FLUID_PLAYER_PLAYING &&
+           timing->MsAt(Fs().fluid_player_get_current_tick(player)) < timing->lengthMs) {
+      if (Fs().fluid_synth_write_s16(s.synth, kFrames, block.data(), 0, 2, block.data(), 1, 2) != FLUID_OK) break;
       pcm.append(reinterpret_cast<const char*>(block.data()), static_cast<qsizetype>(block.size() * 2));
     }
   }
-  fluid_player_stop(player);
-  delete_fluid_player(player);
+  Fs().fluid_player_stop(player);
+  Fs().delete_fluid_player(player);
   if (pcm.isEmpty()) return false;
 
   QByteArray wav("RIFF");
@@ -262,30 +267,68 @@ struct MidiPlayer::Audio {
 
   void DropPlayer() {
     if (!player) return;
-    fluid_player_stop(player);
-    delete_fluid_player(player);
+    Fs().fluid_player_stop(player);
+    Fs().delete_fluid_player(player);
     player = nullptr;
-    fluid_synth_all_notes_off(synth.synth, -1);
+    Fs().fluid_synth_all_notes_off(synth.synth, -1);
   }
   ~Audio() {
     DropPlayer();
-    if (driver) delete_fluid_audio_driver(driver);
+    if (driver) Fs().delete_fluid_audio_driver(driver);
   }
 };
 
 void MidiPlayer::StartAudio() {
   audioTried_ = true;
   if (output_ == Output::Silent || qEnvironmentVariable("TALVERO_NO_AUDIO") == QLatin1String("1")) return;
-  auto audio = std::make_unique<Audio>();
-  if (!audio->synth.synth) return;
-  audio->driver = new_fluid_audio_driver(audio->synth.settings, audio->synth.synth);
-  if (!audio->driver || !audio->synth.LoadSoundFont()) return;
-  audio_ = std::move(audio);
+  // Opening the library and the device and loading the SoundFont take a while: a worker does
+  // it so that nobody waits for the sound, and the clock keeps time until the sound joins.
+  audioStarting_ = std::async(std::launch::async, []() -> std::unique_ptr<Audio> {
+    auto audio = std::make_unique<Audio>();
+    if (!audio->synth.synth) return nullptr;
+    audio->driver = Fs().new_fluid_audio_driver(audio->synth.settings, audio->synth.synth);
+    if (!audio->driver || !audio->synth.LoadSoundFont()) return nullptr;
+    return audio;
+  });
+}
+
+void MidiPlayer::JoinAudio() {
+  if (!audioStarting_.valid() || audioStarting_.wait_for(std::chrono::seconds(0)) != std::future_status::ready) return;
+  audio_ = audioStarting_.get();
+  // A piece under way is picked up where the clock has got to; its position stays the clock's.
+  if (audio_ && playing_ && PositionMs() < timing_.lengthMs) {
+    StartSynth(clock_.elapsed());
+    joinedLate_ = true;
+  }
+}
+
+void MidiPlayer::StartSynth(qint64 fromMs) {
+  audio_->DropPlayer();
+  audio_->player = Fs().new_fluid_player(audio_->synth.synth);
+  if (!audio_->player) return;
+  if (Fs().fluid_player_add_mem(audio_->player, data_.constData(), static_cast<size_t>(data_.size())) != FLUID_OK ||
+      Fs().fluid_player_play(audio_->player) != FLUID_OK) {
+    audio_->DropPlayer();
+    return;
+  }
+  if (fromMs > 0) {
+    // The first tick at or after that time (MsAt only grows).
+    qint64 low = 0, high = std::numeric_limits<int>::max();
+    while (low < high) {
+      const qint64 mid = low + (high - low) / 2;
+      if (timing_.MsAt(mid) < fromMs)
+        low = mid + 1;
+      else
+        high = mid;
+    }
+    Fs().fluid_player_seek(audio_->player, static_cast<int>(low));
+  }
 }
 #else
 bool RenderMidiToWav(const QString&, const QString&) { return false; }
 struct MidiPlayer::Audio {};
 void MidiPlayer::StartAudio() { audioTried_ = true; }
+void MidiPlayer::JoinAudio() {}
 #endif
 
 // --- The command texts --------------------------------------------------------------------
@@ -320,15 +363,10 @@ bool MidiPlayer::Open(const QString& path) {
 void MidiPlayer::Play() {
   if (playing_ && PositionMs() < timing_.lengthMs) return;  // already under way
   playing_ = true;
+  joinedLate_ = false;
   clock_.start();
 #ifdef TALVERO_HAVE_FLUIDSYNTH
-  if (!audio_) return;
-  audio_->DropPlayer();
-  audio_->player = new_fluid_player(audio_->synth.synth);
-  if (!audio_->player) return;
-  if (fluid_player_add_mem(audio_->player, data_.constData(), static_cast<size_t>(data_.size())) != FLUID_OK ||
-      fluid_player_play(audio_->player) != FLUID_OK)
-    audio_->DropPlayer();
+  if (audio_) StartSynth(0);
 #endif
 }
 
@@ -338,10 +376,10 @@ qint64 MidiPlayer::PositionMs() {
 #ifdef TALVERO_HAVE_FLUIDSYNTH
   // With sound the synthesizer's own place in the piece counts; the clock stands in when
   // the file could not be handed to it.
-  if (audio_ && audio_->player) {
-    ms = fluid_player_get_status(audio_->player) == FLUID_PLAYER_DONE
+  if (audio_ && audio_->player && !joinedLate_) {
+    ms = Fs().fluid_player_get_status(audio_->player) == FLUID_PLAYER_DONE
              ? timing_.lengthMs
-             : timing_.MsAt(fluid_player_get_current_tick(audio_->player));
+             : timing_.MsAt(Fs().fluid_player_get_current_tick(audio_->player));
   }
 #endif
   return std::clamp<qint64>(ms, 0, timing_.lengthMs);
@@ -356,6 +394,7 @@ QString Unquoted(QString s) {
 }  // namespace
 
 QString MidiPlayer::Send(const QString& command) {
+  JoinAudio();
   const QString text = command.trimmed();
   const qsizetype space = text.indexOf(QLatin1Char(' '));
   const QString verb = text.left(space < 0 ? text.size() : space).toLower();

@@ -14,6 +14,7 @@
 #include <QByteArray>
 #include <QElapsedTimer>
 #include <QString>
+#include <future>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -51,7 +52,8 @@ class MidiPlayer {
 
   QString Send(const QString& command);
 
-  // Whether sound goes to a device (known after the first "open").
+  // Whether sound goes to a device (known once the device has answered, some time after the
+  // first "open").
   bool Audible() const { return audio_ != nullptr; }
 
  private:
@@ -62,10 +64,14 @@ class MidiPlayer {
   void Play();
   qint64 PositionMs();
   void StartAudio();
+  void JoinAudio();                // takes the device once the worker has opened it
+  void StartSynth(qint64 fromMs);  // the open piece through the synthesizer, from a time
 
   Output output_;
   bool audioTried_ = false;
   std::unique_ptr<Audio> audio_;
+  std::future<std::unique_ptr<Audio>> audioStarting_;
+  bool joinedLate_ = false;  // the sound joined a piece under way: its position is the clock's
 
   QString alias_;  // the alias of the open piece; empty when none is open
   QByteArray data_;

@@ -7,9 +7,9 @@
 #include "services/platform.h"
 
 void JeuPoker::JoueMusic() {
-  // The file list of the program directory, read once.
+  // The file list of the data directory, read once.
   if (FileMidItems.isEmpty())
-    FileMidItems = QDir(programDir_).entryList({QStringLiteral("*.mid")}, QDir::Files, QDir::Name);
+    FileMidItems = QDir(dataDir_).entryList({QStringLiteral("*.mid")}, QDir::Files, QDir::Name);
   // Without pieces the music stays silent (and its button shows no number).
   if (FileMidItems.isEmpty()) {
     SSMusic(0).SetCaption(QString());
@@ -21,7 +21,10 @@ void JeuPoker::JoueMusic() {
   SSMusic(0).SetCaption(QString::number(i + 1));
 
   Sys().SendMciCommand(QStringLiteral("close sequence"));
-  Sys().SendMciCommand(QStringLiteral("open ") + MorceauCourant + QStringLiteral(" alias sequence"));
+  // The piece is named from the program directory, the current one; an installed game reads
+  // its pieces from the data directory, by their full path.
+  const QString fichier = dataDir_ == programDir_ ? MorceauCourant : QDir(dataDir_).filePath(MorceauCourant);
+  Sys().SendMciCommand(QStringLiteral("open ") + fichier + QStringLiteral(" alias sequence"));
   Sys().SendMciCommand(QStringLiteral("play sequence"));
   LongueurMorceau = Sys().SendMciCommand(QStringLiteral("status sequence length"));
   TempoMorceau = Sys().SendMciCommand(QStringLiteral("status sequence tempo"));

@@ -4,6 +4,7 @@
 
 #include "interface/JeuPoker.h"
 #include "services/platform.h"
+#include "services/startup_stages.h"
 #include "services/web.h"
 
 namespace {
@@ -27,6 +28,7 @@ void JeuPoker::Form_Load() {
   // 3. The web panels show the publisher's pages.
   if (auto* web = Pub0Web->findChild<WebPanel*>()) web->Navigate(AdresseWeb(QStringLiteral("pub0.htm")));
   if (auto* web = Pub1Web->findChild<WebPanel*>()) web->Navigate(AdresseWeb(QStringLiteral("pub1.htm")));
+  StartupStage("web");
   // 4. The no-connection notice is centred on the form.
   NonConnectéPic->SetLeft((width() * kTwipsPerPixel - NonConnectéPic->Width()) / 2);
   NonConnectéPic->SetTop((height() * kTwipsPerPixel - NonConnectéPic->Height()) / 2);
@@ -71,11 +73,13 @@ void JeuPoker::Form_Load() {
   });
   // 14. Show the form.
   vb::SkipOnError([&] { show(); });
+  StartupStage("shown");
   // 15. The statistics tables, and the panel at rest for the deck in force.
   vb::SkipOnError([&] { RemplitStatistiques(); });
   // 16. The music.
   vb::SkipOnError([&] { SSMusic(0).SetPicture(SSMusic(1).GetPicture()); });
   vb::SkipOnError([&] { JoueMusic(); });
+  StartupStage("music");
   vb::SkipOnError([&] { Tirage->SetFocus(); });
 }
 

@@ -82,7 +82,7 @@ void WebPanel::Navigate(const QString& address) {
 
 QString JeuPoker::AdresseWeb(const QString& page) const {
   QString publisher = qEnvironmentVariable("TALVERO_PUBLISHER");
-  if (publisher.isEmpty()) return QDir(programDir_).filePath(page);
+  if (publisher.isEmpty()) return QDir(dataDir_).filePath(page);
   while (publisher.endsWith('/')) publisher.chop(1);
   return publisher + '/' + page;
 }
@@ -91,7 +91,7 @@ bool JeuPoker::NetworkStatus() { return Sys().Connected(); }
 
 void JeuPoker::NonConnectéTimer_Timer() {
   if (NetworkStatus()) return;
-  if (auto* web = LogoWeb->findChild<WebPanel*>()) web->Navigate(QDir(programDir_).filePath("logoalb200.htm"));
+  if (auto* web = LogoWeb->findChild<WebPanel*>()) web->Navigate(QDir(dataDir_).filePath("logoalb200.htm"));
   NonConnectéPic->SetVisible(true);
 }
 

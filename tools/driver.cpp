@@ -19,6 +19,8 @@ struct Target {
   int index = -1;
   QString prop;
   bool ok = false;
+  // Set when the index is written as digits but does not fit a number.
+  QString error;
 };
 
 // NAME, NAME(i), and with a property NAME.PROP or NAME(i).PROP.
@@ -28,7 +30,14 @@ Target ParseTarget(const QString& text, bool withProperty) {
   const auto m = re.match(text);
   if (!m.hasMatch()) return t;
   t.name = m.captured(1);
-  t.index = m.captured(2).isEmpty() ? -1 : m.captured(2).toInt();
+  if (!m.captured(2).isEmpty()) {
+    bool fits = false;
+    t.index = m.captured(2).toInt(&fits);
+    if (!fits) {
+      t.error = QStringLiteral("index %1 does not fit a number").arg(m.captured(2));
+      return t;
+    }
+  }
   t.prop = m.captured(3);
   t.ok = withProperty ? !t.prop.isEmpty() : t.prop.isEmpty();
   return t;
@@ -75,6 +84,24 @@ QKeyEvent MakeKey(QEvent::Type type, int code) {
   return QKeyEvent(type, key, mods, text);
 }
 }  // namespace
+
+void SeededPlatform::Seed(std::uint32_t seed) {
+  seeded_ = true;
+  generator_.seed(seed);
+}
+
+int SeededPlatform::RandomInt(int n) {
+  if (!seeded_) return ScriptedPlatform::RandomInt(n);
+  if (!queuedDraws.empty()) {
+    const int v = queuedDraws.front();
+    queuedDraws.pop_front();
+    if (v >= 0 && v < n) return v;
+    drawErrors.push_back(QStringLiteral("draw %1 is not below %2; drawn at random").arg(v).arg(n));
+  }
+  if (n <= 0) return 0;
+  // The whole part of a uniform number in [0, 1) times n, from 32 random bits.
+  return static_cast<int>((static_cast<std::uint64_t>(generator_()) * static_cast<std::uint64_t>(n)) >> 32);
+}
 
 Driver::Driver(JeuPoker& form, ScriptedPlatform& platform, std::function<void(const QString&)> out)
     : form_(form), platform_(platform), out_(std::move(out)) {}
@@ -128,7 +155,20 @@ void Driver::Execute(const QString& rawLine) {
     const int n = sp < 0 ? 0 : rest.left(sp).toInt(&ok);
     if (!ok || n < 1) return Error(QStringLiteral("atyield takes a count from 1 and a command"));
     const QString inner = rest.mid(sp + 1);
-    platform_.AtYield(n, [this, inner] { Execute(inner); });
+    platform_.AtYield(n, [this, inner, generation = yieldGeneration_] {
+      if (generation == yieldGeneration_) Execute(inner);
+    });
+  } else if (cmd == "unyield") {
+    // The commands still waiting for a yield are dropped.
+    if (!rest.isEmpty()) return Error(QStringLiteral("unyield takes nothing"));
+    ++yieldGeneration_;
+  } else if (cmd == "seed") {
+    bool ok = false;
+    const uint seed = rest.toUInt(&ok);
+    auto* seeded = dynamic_cast<SeededPlatform*>(&platform_);
+    if (!ok) return Error(QStringLiteral("seed takes a whole number from 0 to 4294967295"));
+    if (!seeded) return Error(QStringLiteral("seed needs the platform of talvero-drive"));
+    seeded->Seed(seed);
   } else if (cmd == "slept") {
     out_(QStringLiteral("slept=%1").arg(platform_.sleptMs));
   } else if (cmd == "file") {
@@ -187,6 +227,7 @@ QWidget* Driver::Reached(Control* c) const {
 
 void Driver::Click(const QString& text) {
   const Target t = ParseTarget(text, false);
+  if (!t.error.isEmpty()) return Error(t.error);
   Control* c = t.ok ? form_.FindControl(t.name, t.index) : nullptr;
   if (!c) return Error(QStringLiteral("no control %1").arg(text));
   QWidget* reached = Reached(c);
@@ -203,6 +244,7 @@ void Driver::Click(const QString& text) {
 
 void Driver::Move(const QString& text) {
   const Target t = ParseTarget(text, false);
+  if (!t.error.isEmpty()) return Error(t.error);
   Control* c = t.ok ? form_.FindControl(t.name, t.index) : nullptr;
   if (!c) return Error(QStringLiteral("no control %1").arg(text));
   QWidget* reached = Reached(c);
@@ -228,6 +270,7 @@ void Driver::Key(const QString& text) {
 
 void Driver::Get(const QString& text) {
   const Target t = ParseTarget(text, true);
+  if (!t.error.isEmpty()) return Error(t.error);
   if (!t.ok) return Error(QStringLiteral("get takes NAME.PROP or NAME(i).PROP"));
   const QString head = TargetText(t) + "." + t.prop + "=";
   if (t.name == "JeuPoker" && t.index < 0) {
@@ -281,6 +324,7 @@ void Driver::Get(const QString& text) {
 
 void Driver::Var(const QString& text, bool set, const QString& value) {
   const Target t = ParseTarget(text, false);
+  if (!t.error.isEmpty()) return Error(t.error);
   const JeuPoker::Variable* v = t.ok ? form_.FindVariable(t.name) : nullptr;
   if (!v) return Error(QStringLiteral("no variable %1").arg(text));
   const bool isArray = v->low >= 0 || v->high >= 0;

@@ -4,12 +4,28 @@
 
 #include <QString>
 #include <cstddef>
+#include <cstdint>
 #include <functional>
+#include <random>
+
+#include "services/platform.h"
 
 class Control;
 class JeuPoker;
 class QWidget;
-class ScriptedPlatform;
+
+// The scripted platform of talvero-drive. Once seeded (the `seed` command), the draws that the
+// queue does not give come from a generator of that seed, so a command file replays exactly;
+// unseeded it draws as the scripted platform does.
+class SeededPlatform : public ScriptedPlatform {
+ public:
+  void Seed(std::uint32_t seed);
+  int RandomInt(int n) override;
+
+ private:
+  bool seeded_ = false;
+  std::mt19937 generator_;
+};
 
 class Driver {
  public:
@@ -35,4 +51,6 @@ class Driver {
   ScriptedPlatform& platform_;
   std::function<void(const QString&)> out_;
   std::size_t mciShown_ = 0;
+  // Commands waiting for a yield run only if no `unyield` came since they were given.
+  unsigned yieldGeneration_ = 0;
 };

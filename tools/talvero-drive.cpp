@@ -71,7 +71,7 @@ int main(int argc, char** argv) {
     CopyDirectory(QDir(QCoreApplication::applicationDirPath()).filePath("talvero"), dir);
   }
 
-  static ScriptedPlatform platform;
+  static SeededPlatform platform;
   SetPlatform(&platform);
   static bool screenGiven = false;
   if (screenSize.hasMatch()) {

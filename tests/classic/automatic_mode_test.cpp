@@ -373,7 +373,14 @@ TEST(AutomaticModeCredit, GridCreditRunsOut) {
   h.Drive({"set Capital 1"});
   h.platform.QueueDraws(options::kGridNothing);
   h.platform.QueueDraws(options::kGridNothing);
+  // The second list is all refused as cards already out: what follows is drawn from a fixed
+  // sequence, not from the clock, so that the run is the same every time.
+  std::mt19937 fixed(5);
+  std::vector<int> more(5000);
+  for (int& v : more) v = static_cast<int>(fixed() % 52);
+  h.platform.QueueDraws(more);
   Click(h, "AutoPlay");
+  EXPECT_FALSE(h.platform.queuedDraws.empty()) << "the run outlasted the fixed draws";
   EXPECT_EQ(f.Capital, 0);
   EXPECT_EQ(f.NbTirées, 50);
   EXPECT_EQ(f.SSAlertes->Caption(),

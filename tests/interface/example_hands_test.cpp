@@ -42,8 +42,15 @@ TEST_P(ExampleHands, RowTitleShowsItsHand) {
     EXPECT_EQ(f.CartesMains(i).GetPicture(), f.Cartes(kExamples[row][i]).GetPicture()) << "card " << i;
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, ExampleHands, ::testing::Range(0, 11),
-                         [](const ::testing::TestParamInfo<int>& info) { return "Row" + std::to_string(info.param); });
+// Each row by its number and the hand it pays, top to bottom as the pay table lists them.
+std::string RowName(const ::testing::TestParamInfo<int>& info) {
+  static const char* const kHands[11] = {"KingsOrAces", "TwoPairs",    "ThreeOfAKind", "Straight",
+                                         "Flush",       "FullHouse",   "FourOfAKind",  "StraightFlush",
+                                         "RoyalFlush",  "FiveOfAKind", "Nothing"};
+  return "Row" + std::to_string(info.param) + "_" + kHands[info.param];
+}
+
+INSTANTIATE_TEST_SUITE_P(Rows, ExampleHands, ::testing::Range(0, 11), RowName);
 
 TEST(ExampleHand, BetterHandRowHidesAndNothingRowShows) {
   Harness h;

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/harness.h"
+#include "tests/support/harness.h"
 
 namespace options {
 

@@ -29,6 +29,8 @@ inline bool IsEnglish(Lang l) { return l == Lang::English; }
 inline std::string LangName(const ::testing::TestParamInfo<Lang>& info) {
   return info.param == Lang::English ? "English" : "French";
 }
+// A language prints by its name in test listings and failure messages.
+inline void PrintTo(Lang l, std::ostream* os) { *os << (l == Lang::English ? "English" : "French"); }
 
 // The language button of `l`, clicked as the player does.
 inline void Choose(Harness& h, Lang l) { options::Click(h, IsEnglish(l) ? "SSLangue(0)" : "SSLangue(1)"); }

@@ -1,8 +1,8 @@
 // The display mode at start: a screen of 768 lines or more is left alone; a smaller one is
 // changed to 1024 x 768 only with the player's consent, asked by a window of its own before the
 // main form shows, and the mode found at start is set again at the end.
-#include "tests/harness.h"
 #include "tests/services/services_helpers.h"
+#include "tests/support/harness.h"
 
 namespace {
 

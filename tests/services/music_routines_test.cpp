@@ -3,8 +3,8 @@
 // switch.
 #include <QDir>
 
-#include "tests/harness.h"
 #include "tests/services/services_helpers.h"
+#include "tests/support/harness.h"
 
 namespace {
 

@@ -5,8 +5,8 @@
 #include <QTcpSocket>
 
 #include "services/web.h"
-#include "tests/harness.h"
 #include "tests/services/services_helpers.h"
+#include "tests/support/harness.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 #include <bit>
 
 #include "classic/selection_rules.h"
-#include "tests/harness.h"
+#include "tests/support/harness.h"
 #include "tests/tools/odds_support.h"
 
 namespace {

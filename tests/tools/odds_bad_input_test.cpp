@@ -4,7 +4,7 @@
 
 #include <QProcess>
 
-#include "tests/harness.h"
+#include "tests/support/harness.h"
 
 namespace {
 

@@ -8,7 +8,7 @@
 #include <QProcess>
 
 #include "classic/selection_rules.h"
-#include "tests/harness.h"
+#include "tests/support/harness.h"
 #include "tests/tools/odds_support.h"
 
 namespace {

@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "odds/engine.h"
-#include "tests/harness.h"
+#include "tests/support/harness.h"
 
 TEST(OddsPayTable, EqualsTheFormsTableForEveryDeck) {
   Harness h;

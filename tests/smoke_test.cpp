@@ -1,8 +1,0 @@
-#include <gtest/gtest.h>
-
-#include "tests/harness.h"
-
-TEST(Form, CaptionIsMontalbergues) {
-  Harness h;
-  EXPECT_EQ(h.form->windowTitle(), "MONTALBERGUES");
-}
