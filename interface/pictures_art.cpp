@@ -18,6 +18,7 @@
 #include <array>
 #include <cctype>
 #include <cmath>
+#include <cstdlib>
 #include <ctime>
 
 #include "services/startup_stages.h"
@@ -213,16 +214,41 @@ QByteArray DeckElementDocument(const QString& deckFile, const QString& id) {
   return text.mid(root, rootEnd + 1 - root) + "<defs>" + defs + "</defs>" + groups + body + closing + "</svg>";
 }
 
+namespace {
+std::mutex& CacheMutex() {
+  static std::mutex m;
+  return m;
+}
+std::vector<std::shared_ptr<CardFaces>>& Cache() {
+  static auto* cache = new std::vector<std::shared_ptr<CardFaces>>;
+  return *cache;
+}
+// At exit the workers stop before the statics they use go. Registered once a worker has drawn
+// a card, so after the statics that drawing created, and so run before their destruction.
+void StopWorkersAtExit() {
+  static std::once_flag once;
+  std::call_once(once, [] {
+    std::atexit([] {
+      std::vector<std::shared_ptr<CardFaces>> all;
+      {
+        const std::lock_guard lock(CacheMutex());
+        all = Cache();
+      }
+      for (const auto& faces : all) faces->Stop();
+    });
+  });
+}
+}  // namespace
+
 std::shared_ptr<CardFaces> CardFaces::For(const Sizes& sizes) {
   // Every form of the process shares the faces of its sizes: the game has one form, the
-  // tests and the benchmarks build many.
-  static std::mutex cacheMutex;
-  static std::vector<std::shared_ptr<CardFaces>> cache;
-  const std::lock_guard lock(cacheMutex);
-  for (const auto& faces : cache)
+  // tests and the benchmarks build many. The cache lives as long as the process.
+  const std::lock_guard lock(CacheMutex());
+  auto* cache = &Cache();
+  for (const auto& faces : *cache)
     if (faces->sizes_ == sizes) return faces;
-  cache.push_back(std::make_shared<CardFaces>(sizes));
-  return cache.back();
+  cache->push_back(std::make_shared<CardFaces>(sizes));
+  return cache->back();
 }
 
 CardFaces::CardFaces(const Sizes& sizes)
@@ -231,9 +257,15 @@ CardFaces::CardFaces(const Sizes& sizes)
       small_(static_cast<std::size_t>(sizes.smalls)),
       worker_([this] { Render(); }) {}
 
-CardFaces::~CardFaces() {
-  Continue();
-  worker_.join();
+CardFaces::~CardFaces() { Stop(); }
+
+void CardFaces::Stop() {
+  {
+    const std::lock_guard lock(mutex_);
+    stop_ = true;
+    drawn_.notify_all();
+  }
+  if (worker_.joinable()) worker_.join();
 }
 
 void CardFaces::Continue() {
@@ -257,18 +289,22 @@ void CardFaces::Render() {
     if (alone.isValid() && alone.elementExists(CardElement(back)))
       publish(faces_, back, CardFace(alone, back, sizes_.face, sizes_.dpr));
   }
+  StopWorkersAtExit();
   StartupStage("cards:back");
   {
     std::unique_lock lock(mutex_);
-    drawn_.wait(lock, [&] { return goOn_; });
+    drawn_.wait(lock, [&] { return goOn_ || stop_; });
+    if (stop_) return;
   }
   auto deck = std::make_unique<QSvgRenderer>(DeckFile());
   StartupStage("deck");
   if (!faces_[static_cast<std::size_t>(back)].drawn)
     publish(faces_, back, CardFace(*deck, back, sizes_.face, sizes_.dpr));
-  for (int code = 0; code < back; ++code) publish(faces_, code, CardFace(*deck, code, sizes_.face, sizes_.dpr));
-  for (int code = 0; code < sizes_.smalls; ++code)
+  for (int code = 0; code < back && !stop_; ++code)
+    publish(faces_, code, CardFace(*deck, code, sizes_.face, sizes_.dpr));
+  for (int code = 0; code < sizes_.smalls && !stop_; ++code)
     publish(small_, code, SmallCardFace(*deck, code, sizes_.small, sizes_.dpr));
+  if (stop_) return;
   // The parsed deck is a few megabytes of small blocks: hand them back to the system.
   deck.reset();
   malloc_trim(0);
@@ -285,7 +321,7 @@ QPixmap CardFaces::Take(std::vector<Slot>& store, int code) {
     // Wanted before the first frame let the worker go on: it goes on now.
     goOn_ = true;
     drawn_.notify_all();
-    drawn_.wait(lock, [&] { return slot.drawn; });
+    drawn_.wait(lock, [&] { return slot.drawn || stop_; });
   }
   if (slot.pixmap.isNull() && !slot.image.isNull()) slot.pixmap = QPixmap::fromImage(std::move(slot.image));
   return slot.pixmap;
@@ -297,7 +333,7 @@ QPixmap CardFaces::Small(int code) { return Take(small_, code); }
 void CardFaces::WaitAll() {
   Continue();
   std::unique_lock lock(mutex_);
-  drawn_.wait(lock, [&] { return finished_; });
+  drawn_.wait(lock, [&] { return finished_ || stop_; });
 }
 
 QImage CardFace(QSvgRenderer& deck, int code, QSize size, qreal dpr) {

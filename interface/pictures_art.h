@@ -9,6 +9,7 @@
 #include <QPixmap>
 #include <QSize>
 #include <QString>
+#include <atomic>
 #include <condition_variable>
 #include <memory>
 #include <mutex>
@@ -73,6 +74,8 @@ class CardFaces {
   void Continue();
   // Waits until every face is drawn and the deck is released.
   void WaitAll();
+  // Stops the worker after the face it is drawing, and waits for it.
+  void Stop();
 
  private:
   struct Slot {
@@ -87,6 +90,7 @@ class CardFaces {
   std::vector<Slot> faces_, small_;
   bool finished_ = false;
   bool goOn_ = false;
+  std::atomic<bool> stop_ = false;
   std::mutex mutex_;
   std::condition_variable drawn_;
   std::thread worker_;

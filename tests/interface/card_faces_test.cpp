@@ -46,6 +46,7 @@ TEST(CardFaces, AMissingFileOrElementGivesNoDocument) {
 }
 
 TEST(CardFaces, TheWorkersFacesEqualFacesDrawnFromTheDeck) {
+  TestApp();
   const pics::CardFaces::Sizes sizes{QSize(88, 133), 55, QSize(65, 87), 54, 1};
   pics::CardFaces faces(sizes);
   QSvgRenderer deck(pics::DeckFile());
@@ -58,6 +59,7 @@ TEST(CardFaces, TheWorkersFacesEqualFacesDrawnFromTheDeck) {
 
 TEST(CardFaces, AFaceWantedBeforeTheFirstFrameIsDrawnWithoutWaitingForIt) {
   // Nobody calls Continue: asking for a face lets the worker go on by itself.
+  TestApp();
   pics::CardFaces faces({QSize(88, 133), 55, QSize(65, 87), 54, 1});
   EXPECT_FALSE(faces.Face(7).isNull());
   EXPECT_FALSE(faces.Small(7).isNull());
