@@ -219,15 +219,20 @@ std::mutex& CacheMutex() {
   static std::mutex m;
   return m;
 }
+QSvgRenderer*& DeckLeftAtExit() {
+  static QSvgRenderer* deck = nullptr;
+  return deck;
+}
 std::vector<std::shared_ptr<CardFaces>>& Cache() {
   static auto* cache = new std::vector<std::shared_ptr<CardFaces>>;
   return *cache;
 }
 // At exit the workers stop before the statics they use go. Registered once a worker has drawn
-// a card, so after the statics that drawing created, and so run before their destruction.
-void StopWorkersAtExit() {
-  static std::once_flag once;
-  std::call_once(once, [] {
+// from a document (stage 0) and again from the whole deck (stage 1), so after the statics that
+// drawing created, and so run before their destruction.
+void StopWorkersAtExit(int stage) {
+  static std::once_flag once[2];
+  std::call_once(once[stage], [] {
     std::atexit([] {
       std::vector<std::shared_ptr<CardFaces>> all;
       {
@@ -289,7 +294,7 @@ void CardFaces::Render() {
     if (alone.isValid() && alone.elementExists(CardElement(back)))
       publish(faces_, back, CardFace(alone, back, sizes_.face, sizes_.dpr));
   }
-  StopWorkersAtExit();
+  StopWorkersAtExit(0);
   StartupStage("cards:back");
   {
     std::unique_lock lock(mutex_);
@@ -300,11 +305,18 @@ void CardFaces::Render() {
   StartupStage("deck");
   if (!faces_[static_cast<std::size_t>(back)].drawn)
     publish(faces_, back, CardFace(*deck, back, sizes_.face, sizes_.dpr));
-  for (int code = 0; code < back && !stop_; ++code)
+  for (int code = 0; code < back && !stop_; ++code) {
     publish(faces_, code, CardFace(*deck, code, sizes_.face, sizes_.dpr));
+    if (code == 0) StopWorkersAtExit(1);
+  }
   for (int code = 0; code < sizes_.smalls && !stop_; ++code)
     publish(small_, code, SmallCardFace(*deck, code, sizes_.small, sizes_.dpr));
-  if (stop_) return;
+  if (stop_) {
+    // Stopped at exit: the deck is left as it is, since the statics its destruction needs
+    // may be gone already.
+    DeckLeftAtExit() = deck.release();
+    return;
+  }
   // The parsed deck is a few megabytes of small blocks: hand them back to the system.
   deck.reset();
   malloc_trim(0);
