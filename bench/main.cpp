@@ -4,6 +4,7 @@
 #include <QApplication>
 
 #include "bench/bench_form.h"
+#include "interface/pictures_art.h"
 
 void ReportFirstBuildPictures();
 
@@ -15,5 +16,6 @@ int main(int argc, char** argv) {
   benchmark::RunSpecifiedBenchmarks();
   benchmark::Shutdown();
   ReleaseBenchForm();
+  pics::CardFaces::StopAll();
   return 0;
 }

@@ -227,21 +227,13 @@ std::vector<std::shared_ptr<CardFaces>>& Cache() {
   static auto* cache = new std::vector<std::shared_ptr<CardFaces>>;
   return *cache;
 }
-// At exit the workers stop before the statics they use go. Registered once a worker has drawn
+// At exit (when a program ends without returning from main) the workers stop before the
+// statics they use go. Registered once a worker has drawn
 // from a document (stage 0) and again from the whole deck (stage 1), so after the statics that
 // drawing created, and so run before their destruction.
 void StopWorkersAtExit(int stage) {
   static std::once_flag once[2];
-  std::call_once(once[stage], [] {
-    std::atexit([] {
-      std::vector<std::shared_ptr<CardFaces>> all;
-      {
-        const std::lock_guard lock(CacheMutex());
-        all = Cache();
-      }
-      for (const auto& faces : all) faces->Stop();
-    });
-  });
+  std::call_once(once[stage], [] { std::atexit(CardFaces::StopAll); });
 }
 }  // namespace
 
@@ -254,6 +246,15 @@ std::shared_ptr<CardFaces> CardFaces::For(const Sizes& sizes) {
     if (faces->sizes_ == sizes) return faces;
   cache->push_back(std::make_shared<CardFaces>(sizes));
   return cache->back();
+}
+
+void CardFaces::StopAll() {
+  std::vector<std::shared_ptr<CardFaces>> all;
+  {
+    const std::lock_guard lock(CacheMutex());
+    all = Cache();
+  }
+  for (const auto& faces : all) faces->Stop();
 }
 
 CardFaces::CardFaces(const Sizes& sizes)

@@ -76,6 +76,9 @@ class CardFaces {
   void WaitAll();
   // Stops the worker after the face it is drawing, and waits for it.
   void Stop();
+  // Stops every worker of the process. Called before a program returns from main, so that no
+  // worker draws while the process's statics are destroyed.
+  static void StopAll();
 
  private:
   struct Slot {

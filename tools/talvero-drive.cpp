@@ -10,6 +10,7 @@
 #include <string>
 
 #include "interface/JeuPoker.h"
+#include "interface/pictures_art.h"
 #include "services/platform.h"
 #include "tools/driver.h"
 
@@ -113,5 +114,6 @@ int main(int argc, char** argv) {
     driver.Execute(QString::fromStdString(line));
     QCoreApplication::processEvents();
   }
+  pics::CardFaces::StopAll();
   return 0;
 }
