@@ -14,7 +14,9 @@
 
 namespace {
 // With TALVERO_FIRST_FRAME_REPORT set, the game prints the wall-clock time of its first
-// painted frame and its resident memory, then ends (used by scripts/measure-startup).
+// painted frame and its resident memory, then ends (used by scripts/measure-startup). Set to
+// "settled", it also waits until the work that follows the first frame is done and prints
+// the resident memory then.
 class FirstFrameReport : public QObject {
  public:
   bool eventFilter(QObject* watched, QEvent* event) override {
@@ -29,11 +31,19 @@ class FirstFrameReport : public QObject {
                     static_cast<long long>(ts.tv_sec) * 1000000000LL + ts.tv_nsec, rssKb,
                     StartupStages().toLatin1().constData());
         std::fflush(stdout);
-        std::_Exit(0);
+        if (qEnvironmentVariable("TALVERO_FIRST_FRAME_REPORT") != QLatin1String("settled")) std::_Exit(0);
+        QTimer::singleShot(kSettleMs, [] {
+          std::printf("settled-rss-kb=%ld stages-ms=%s\n", ResidentKb(), StartupStages().toLatin1().constData());
+          std::fflush(stdout);
+          std::_Exit(0);
+        });
       });
     }
     return QObject::eventFilter(watched, event);
   }
+
+  // Long enough for the card faces and the sound device, which follow the first frame.
+  static constexpr int kSettleMs = 3000;
 
  private:
   bool done_ = false;

@@ -2,8 +2,10 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QTimer>
 
 #include "interface/bind.h"
+#include "services/first_frame.h"
 #include "services/startup_stages.h"
 
 int VbKeyCode(const QKeyEvent* e);
@@ -33,10 +35,14 @@ JeuPoker::JeuPoker(const QString& programDir, const QString& dataDir)
 JeuPoker::~JeuPoker() { qApp->removeEventFilter(this); }
 
 bool JeuPoker::eventFilter(QObject* watched, QEvent* event) {
-  // Once the form has painted its first frame, the card worker goes on to the faces.
-  if (event->type() == QEvent::Paint && watched == this && cardFaces_ && !facesGoOn_) {
+  // Once the form's first frame has been painted and flushed, the card worker goes on to the
+  // faces and the sound device is opened.
+  if (event->type() == QEvent::Paint && watched == this && !facesGoOn_) {
     facesGoOn_ = true;
-    cardFaces_->Continue();
+    QTimer::singleShot(0, this, [this] {
+      if (cardFaces_) cardFaces_->Continue();
+      FirstFrameShown();
+    });
   }
   if (event->type() == QEvent::KeyPress) {
     auto* w = qobject_cast<QWidget*>(watched);

@@ -571,6 +571,6 @@ class JeuPoker : public QWidget {
   QHash<QString, TimerControl*> timers_;
   std::vector<std::unique_ptr<StoredPicture>> pictures_;
   std::shared_ptr<pics::CardFaces> cardFaces_;  // rendering on a worker while the form is built
-  bool facesGoOn_ = false;                      // the worker was told the first frame is out
+  bool facesGoOn_ = false;                      // the first frame has been seen
   QHash<QString, Variable> variables_;
 };

@@ -9,6 +9,7 @@
 #include <limits>
 
 #ifdef TALVERO_HAVE_FLUIDSYNTH
+#include "services/first_frame.h"
 #include "services/fluidsynth_library.h"
 #endif
 
@@ -284,6 +285,9 @@ void MidiPlayer::StartAudio() {
   // Opening the library and the device and loading the SoundFont take a while: a worker does
   // it so that nobody waits for the sound, and the clock keeps time until the sound joins.
   audioStarting_ = std::async(std::launch::async, []() -> std::unique_ptr<Audio> {
+    // The window's first frame goes first: the device and the synthesizer would compete
+    // with it for the processor and the memory.
+    WaitForFirstFrame(std::chrono::milliseconds(500));
     auto audio = std::make_unique<Audio>();
     if (!audio->synth.synth) return nullptr;
     audio->driver = Fs().new_fluid_audio_driver(audio->synth.settings, audio->synth.synth);

@@ -1,5 +1,6 @@
 // The reference of scripts/measure-startup: a bare Qt window of the game's size, reporting
-// its first painted frame and resident memory the way the game does.
+// its first painted frame and resident memory the way the game does, and with
+// TALVERO_FIRST_FRAME_REPORT=settled its resident memory three seconds later.
 #include <QApplication>
 #include <QTimer>
 #include <QWidget>
@@ -21,7 +22,12 @@ class BareWindow : public QWidget {
       std::printf("first-frame-ns=%lld rss-kb=%ld\n", static_cast<long long>(ts.tv_sec) * 1000000000LL + ts.tv_nsec,
                   ResidentKb());
       std::fflush(stdout);
-      std::_Exit(0);
+      if (qEnvironmentVariable("TALVERO_FIRST_FRAME_REPORT") != QLatin1String("settled")) std::_Exit(0);
+      QTimer::singleShot(3000, [] {
+        std::printf("settled-rss-kb=%ld\n", ResidentKb());
+        std::fflush(stdout);
+        std::_Exit(0);
+      });
     });
   }
 
