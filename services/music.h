@@ -37,9 +37,13 @@ std::optional<MidiTiming> ReadMidiTiming(const QByteArray& data);
 // The General MIDI SoundFont of the system, or an empty text when none is installed.
 QString GeneralMidiSoundFont();
 
+// How the synthesizer takes the SoundFont's samples: when an instrument is first chosen (what
+// the game does: its pieces use a few of the 128 instruments), or all when the SoundFont loads.
+enum class SampleLoading { WhenUsed, AllAtLoad };
+
 // Renders a MIDI file through FluidSynth into a 16-bit stereo WAV file at 44100 Hz, as fast as
 // it can, up to the end of the piece. False when FluidSynth, the SoundFont or a file fails.
-bool RenderMidiToWav(const QString& midiPath, const QString& wavPath);
+bool RenderMidiToWav(const QString& midiPath, const QString& wavPath, SampleLoading loading = SampleLoading::WhenUsed);
 
 class MidiPlayer {
  public:

@@ -90,4 +90,21 @@ TEST(MusicPieces, ARenderedPieceIsAudibleAllAlongAndAsLongAsThePiece) {
   ASSERT_GT(windows, 0);
   EXPECT_GE(loud, windows * 9 / 10) << loud << " of " << windows << " seconds sound";
 }
+
+TEST(MusicPieces, SamplesReadWhenFirstUsedSoundExactlyAsSamplesReadAtLoad) {
+  // The synthesizer reads an instrument's samples when a piece first chooses it; every piece
+  // must sound the same, sample for sample, as with the whole SoundFont read at once.
+  QTemporaryDir dir;
+  for (const QString& name : ShippedPieces()) {
+    const QString whenUsed = dir.filePath(name + "-when-used.wav");
+    const QString atLoad = dir.filePath(name + "-at-load.wav");
+    ASSERT_TRUE(RenderMidiToWav(PiecePath(name), whenUsed, SampleLoading::WhenUsed)) << name.toStdString();
+    ASSERT_TRUE(RenderMidiToWav(PiecePath(name), atLoad, SampleLoading::AllAtLoad)) << name.toStdString();
+    QFile a(whenUsed), b(atLoad);
+    ASSERT_TRUE(a.open(QIODevice::ReadOnly) && b.open(QIODevice::ReadOnly));
+    const QByteArray left = a.readAll(), right = b.readAll();
+    EXPECT_GT(left.size(), 44 + 44100 * 4) << name.toStdString();
+    EXPECT_TRUE(left == right) << name.toStdString();
+  }
+}
 #endif
