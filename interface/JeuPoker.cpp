@@ -37,8 +37,8 @@ JeuPoker::~JeuPoker() { qApp->removeEventFilter(this); }
 bool JeuPoker::eventFilter(QObject* watched, QEvent* event) {
   // Once the form's first frame has been painted and flushed, the card worker goes on to the
   // faces and the sound device is opened.
-  if (event->type() == QEvent::Paint && watched == this && !facesGoOn_) {
-    facesGoOn_ = true;
+  if (event->type() == QEvent::Paint && watched == this && !firstFrameSeen_) {
+    firstFrameSeen_ = true;
     QTimer::singleShot(0, this, [this] {
       if (cardFaces_) cardFaces_->Continue();
       FirstFrameShown();

@@ -570,7 +570,7 @@ class JeuPoker : public QWidget {
   QHash<QString, int> arrayLow_;
   QHash<QString, TimerControl*> timers_;
   std::vector<std::unique_ptr<StoredPicture>> pictures_;
-  std::shared_ptr<pics::CardFaces> cardFaces_;  // rendering on a worker while the form is built
-  bool facesGoOn_ = false;                      // the first frame has been seen
+  std::shared_ptr<pics::CardFaces> cardFaces_;  // drawn on a worker, the faces after the first frame
+  bool firstFrameSeen_ = false;                 // the first frame has been seen
   QHash<QString, Variable> variables_;
 };

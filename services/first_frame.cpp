@@ -4,18 +4,27 @@
 #include <mutex>
 
 namespace {
-std::mutex frameMutex;
-std::condition_variable frameShown;
-bool shown = false;
+struct Gate {
+  std::mutex mutex;
+  std::condition_variable shown;
+  bool open = false;
+};
+// Never destroyed: a worker may still be waiting when a program ends through exit().
+Gate& TheGate() {
+  static Gate* const gate = new Gate;
+  return *gate;
+}
 }  // namespace
 
 void FirstFrameShown() {
-  const std::lock_guard lock(frameMutex);
-  shown = true;
-  frameShown.notify_all();
+  Gate& gate = TheGate();
+  const std::lock_guard lock(gate.mutex);
+  gate.open = true;
+  gate.shown.notify_all();
 }
 
 bool WaitForFirstFrame(std::chrono::milliseconds limit) {
-  std::unique_lock lock(frameMutex);
-  return frameShown.wait_for(lock, limit, [] { return shown; });
+  Gate& gate = TheGate();
+  std::unique_lock lock(gate.mutex);
+  return gate.shown.wait_for(lock, limit, [&] { return gate.open; });
 }
