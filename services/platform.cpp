@@ -4,12 +4,12 @@
 #include <QDir>
 #include <QFile>
 #include <QGuiApplication>
-#include <QNetworkInformation>
 #include <QScreen>
 #include <QThread>
 #include <QTime>
 
 #include "services/music.h"
+#include "services/network.h"
 #include "services/xrandr.h"
 
 namespace {
@@ -111,12 +111,8 @@ bool RealPlatform::ChangeDisplayMode(const DisplayMode& mode) {
 }
 
 bool RealPlatform::Connected() {
-  // The system's reachability, loaded at the first question; unknown counts as connected.
-  static const bool loaded = QNetworkInformation::loadBackendByFeatures(QNetworkInformation::Feature::Reachability);
-  QNetworkInformation* info = loaded ? QNetworkInformation::instance() : nullptr;
-  if (!info) return true;
-  const auto r = info->reachability();
-  return r == QNetworkInformation::Reachability::Online || r == QNetworkInformation::Reachability::Unknown;
+  NetworkAccess* network = Network();
+  return network == nullptr || network->Connected();
 }
 
 // ---------------------------------------------------------------------------------------

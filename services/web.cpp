@@ -6,22 +6,15 @@
 #include <QEvent>
 #include <QFile>
 #include <QFileInfo>
-#include <QNetworkAccessManager>
-#include <QNetworkReply>
-#include <QNetworkRequest>
 #include <QUrl>
 
 #include "interface/JeuPoker.h"
+#include "services/network.h"
 #include "services/platform.h"
 
 namespace {
 // A reply slower than this is abandoned for the notice.
 constexpr int kDélaiMs = 8000;
-
-QNetworkAccessManager& Network() {
-  static QNetworkAccessManager* manager = new QNetworkAccessManager(qApp);
-  return *manager;
-}
 }  // namespace
 
 WebPanel::WebPanel(QWidget* host) : QTextBrowser(host) {
@@ -52,24 +45,24 @@ void WebPanel::Show(const QByteArray& html) {
 
 void WebPanel::Navigate(const QString& address) {
   address_ = address;
+  const int navigation = ++navigations_;
   if (pending_) {
-    QNetworkReply* old = pending_;
+    QObject* old = pending_;
     pending_ = nullptr;
-    old->abort();
+    if (NetworkAccess* network = Network()) network->Cancel(old);
   }
   const QUrl url(address);
   if (url.scheme() == QLatin1String("http") || url.scheme() == QLatin1String("https")) {
     setPlainText(QString());
-    QNetworkRequest request(url);
-    request.setTransferTimeout(kDélaiMs);
-    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
-    QNetworkReply* reply = Network().get(request);
-    pending_ = reply;
-    connect(reply, &QNetworkReply::finished, this, [this, reply] {
-      reply->deleteLater();
-      if (pending_ != reply) return;  // a later navigation took the panel
-      const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-      Show(reply->error() == QNetworkReply::NoError && status == 200 ? reply->readAll() : QByteArray());
+    NetworkAccess* network = Network();
+    if (!network) {
+      Show(QByteArray());
+      return;
+    }
+    pending_ = network->Get(address, kDélaiMs, this, [this, navigation](const QByteArray& page) {
+      if (navigation != navigations_) return;  // a later navigation took the panel
+      pending_ = nullptr;
+      Show(page);
     });
     return;
   }

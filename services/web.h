@@ -6,9 +6,6 @@
 #include <QPointer>
 #include <QTextBrowser>
 
-class QNetworkAccessManager;
-class QNetworkReply;
-
 class WebPanel : public QTextBrowser {
  public:
   // Fills `host` and follows its size.
@@ -31,5 +28,6 @@ class WebPanel : public QTextBrowser {
   void Show(const QByteArray& html);
 
   QString address_;
-  QPointer<QNetworkReply> pending_;
+  QPointer<QObject> pending_;  // the fetch in progress
+  int navigations_ = 0;        // a fetch's reply shows only if no navigation came after it
 };

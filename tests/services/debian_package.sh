@@ -2,9 +2,10 @@
 # The Debian package a player installs: its name, what lintian, desktop-file-validate and
 # appstreamcli say of it, its contents and dependencies; unpacked anywhere (dpkg -x), the game
 # starts under Xvfb from usr/games with a fresh home, makes ~/.local/share/talvero with Ini.dat
-# there (or under XDG_DATA_HOME), says in one line when it cannot, and changes nothing under the
-# unpacked tree. Then `cmake --install` under a prefix of our own (and with DESTDIR) writes a
-# desktop entry that starts the game installed there, and that game starts.
+# there (or under XDG_DATA_HOME), says in one line when it cannot, finds its network library in
+# the unpacked tree, and changes nothing there. Then `cmake --install` under a prefix of our own
+# (and with DESTDIR) writes a desktop entry that starts the game installed there, and that game
+# starts and finds its network library.
 # Usage: debian_package.sh BUILD_DIR VERSION
 set -euo pipefail
 build=$1
@@ -43,7 +44,7 @@ done
 echo "== lintian"
 lintian --tag-display-limit 0 "$deb" >"$work/lintian.txt" 2>&1 || true
 cat "$work/lintian.txt"
-if grep -q '^E:' "$work/lintian.txt"; then fail "lintian reports errors"; fi
+if grep -q '^[EW]:' "$work/lintian.txt"; then fail "lintian reports errors or warnings"; fi
 
 root="$work/root"
 dpkg-deb -x "$deb" "$root"
@@ -52,7 +53,8 @@ for f in usr/games/talvero usr/games/talvero-odds usr/share/games/talvero/pub0.h
   usr/share/games/talvero/pub1.htm usr/share/games/talvero/logoalb200.htm \
   usr/share/icons/hicolor/scalable/apps/talvero.svg usr/share/icons/hicolor/48x48/apps/talvero.png \
   usr/share/icons/hicolor/256x256/apps/talvero.png usr/share/man/man6/talvero.6.gz \
-  usr/share/man/man6/talvero-odds.6.gz usr/share/doc/talvero/copyright usr/share/doc/talvero/changelog.gz; do
+  usr/share/man/man6/talvero-odds.6.gz usr/share/doc/talvero/copyright usr/share/doc/talvero/changelog.gz \
+  usr/lib/games/talvero/libtalvero-network.so; do
   grep -qx "./$f" "$work/files.txt" || fail "the package lacks /$f"
 done
 [ "$(ls "$root"/usr/share/games/talvero/*.mid | wc -l)" -ge 3 ] || fail "fewer than three pieces"
@@ -123,6 +125,13 @@ grep -q '^first-frame-ns=' "$work/out" || fail "with no place for Ini.dat no fra
 grep -q "^talvero: cannot create $work/filehome/.local/share/talvero" "$work/err" ||
   { cat "$work/err"; fail "no message about the player's directory"; }
 
+# A publisher's server that refuses: the game loads its network library from the unpacked tree
+# for the pages, and shows its frame.
+run "$root/usr/games/talvero" "$work/home4" TALVERO_PUBLISHER=http://127.0.0.1:9 ||
+  fail "with a publisher's server the game ended with $?"
+grep -q '^first-frame-ns=' "$work/out" || fail "with a publisher's server no frame was painted"
+if grep -q 'network library' "$work/err"; then cat "$work/err"; fail "the network library was not loaded"; fi
+
 snapshot >"$work/after.txt"
 diff "$work/before.txt" "$work/after.txt" || fail "the unpacked tree changed"
 
@@ -131,7 +140,9 @@ prefix="$work/prefix with space"
 cmake --install "$build" --prefix "$prefix" >"$work/install.log" || { cat "$work/install.log"; fail "cmake --install"; }
 entry=$(ls "$prefix"/share/applications/*.desktop)
 grep -qx "Exec=$prefix/games/talvero" "$entry" || { cat "$entry"; fail "Exec does not name $prefix/games/talvero"; }
-run "$prefix/games/talvero" "$work/home3" || fail "the game installed by cmake ended with status $?"
+run "$prefix/games/talvero" "$work/home3" TALVERO_PUBLISHER=http://127.0.0.1:9 ||
+  fail "the game installed by cmake ended with status $?"
+if grep -q 'network library' "$work/err"; then cat "$work/err"; fail "the installed network library was not loaded"; fi
 [ -f "$work/home3/.local/share/talvero/Ini.dat" ] || fail "the game installed by cmake kept no Ini.dat at home"
 [ ! -e "$prefix/games/Ini.dat" ] && [ ! -e "$prefix/share/games/talvero/Ini.dat" ] || fail "Ini.dat under the prefix"
 
