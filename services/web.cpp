@@ -1,7 +1,6 @@
 // The web panels (Pub0Web, Pub1Web, LogoWeb) and the no-connection notice.
 #include "services/web.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QEvent>
 #include <QFile>
