@@ -380,11 +380,9 @@ void JeuPoker::BuildControls() {
     p->SetFontSpec(kSans, 12, true);
     return p;
   });
-  ImageConseils = MakeArray(0, 4, [&](int i) {
-    auto* img = Make(K::Image, "ImageConseils", &Jouez(i), 1800, -15, 480, 480, i);
-    img->SetVisible(false);
-    return img;
-  });
+  // The selection in force, pictured at the right end of each hold bar.
+  ImageConseils =
+      MakeArray(0, 4, [&](int i) { return Make(K::Image, "ImageConseils", &Jouez(i), 1800, -15, 480, 480, i); });
   Deal = MakeArray(0, 4, [&](int i) {
     auto* b = Make(K::Button, "Deal", SSAireJeu, dealLeft[i], 1065, 1395, 2070, i);
     b->SetBackColor(0x004000);

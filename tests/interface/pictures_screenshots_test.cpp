@@ -57,7 +57,6 @@ TEST(PicturesShots, StartScreenAndSheets) {
   h.form->MiseImage(0).SetLeft(960);
   h.form->MiseImage(0).SetPicture(h.form->ChiffresModèle(21).GetPicture());
   h.form->MiseImage(0).SetVisible(true);
-  for (int i = 0; i <= 4; ++i) h.form->ImageConseils(i).SetVisible(true);
   h.form->Deal(1).SetMousePointer(99);
   h.form->SSMusic(0).SetCaption("3");
   for (int i = 0; i <= 4; ++i) {
