@@ -94,6 +94,7 @@ int main(int argc, char** argv) {
   form.EndProgram = [] { std::_Exit(0); };
   form.Form_Load();
   StartupStage("load");
+  if (QCoreApplication::arguments().contains(QStringLiteral("--coach"))) form.OuvreCoach(true);
   if (qEnvironmentVariableIsSet("TALVERO_AUTOPLAY_REPORT"))
     AutoPlayReport(form, qEnvironmentVariable("TALVERO_AUTOPLAY_REPORT").toDouble());
   return QApplication::exec();

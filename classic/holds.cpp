@@ -7,6 +7,7 @@ constexpr Long kHeldColour = 0xC0C000;
 constexpr Long kRejectedColour = 0x607000;
 constexpr int kKeypad1 = 97;
 constexpr int kKeypad5 = 101;
+constexpr int kF2 = 113;
 
 // Langue 0 or 2 is English, anything else French.
 bool English(Byte langue) { return langue == 0 || langue == 2; }
@@ -26,6 +27,7 @@ void JeuPoker::InverseJouez(int index) {
     jouez.SetCaption(MotCarteGardée());
     jouez.SetBackColor(kHeldColour);
   }
+  AvertitCoach(MomentCoach::Suivi);
 }
 
 void JeuPoker::Deal_Click(int index) {
@@ -51,6 +53,7 @@ void JeuPoker::Deal_Click(int index) {
 // The keypad path differs from the click on purpose: it ignores automatic mode, leaves the
 // panel as it is, and drops a key that is not allowed without blinking.
 void JeuPoker::Form_KeyDown(int keyCode, int /*shift*/) {
+  if (keyCode == kF2) BasculeCoach();
   if (SSAides->Visible()) return;
   Tirage->SetFocus();
   // Only keypad 1..5 act here; Space belongs to Tirage's own key handlers.

@@ -77,6 +77,7 @@ void JeuPoker::AnimeCarte(Control& carte, bool grow) {
 }
 
 void JeuPoker::Tirage1() {
+  AvertitCoach(MomentCoach::Décision);
   // 1. A new round: settle what the last one left and forget the cards gone.
   if (NbTirées != 5) {
     InitPremierTirage();
@@ -174,6 +175,7 @@ void JeuPoker::Tirage1() {
       Doubler->SetVisible(true);
     }
   }
+  AvertitCoach(MomentCoach::FinTirage);
 }
 
 // Turns down the cards to be replaced: the rejected ones, and at the start of a round every

@@ -78,6 +78,7 @@ void JeuPoker::Tirage5() {
   }
 
   RègleLignes();
+  AvertitCoach(MomentCoach::FinTirage);
 }
 
 void JeuPoker::RègleLignes() {

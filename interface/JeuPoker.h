@@ -14,6 +14,8 @@
 #include <memory>
 #include <vector>
 
+#include "coach/coach.h"
+#include "coach/window.h"
 #include "core/vb.h"
 #include "interface/controls.h"
 #include "interface/pictures_art.h"
@@ -525,6 +527,25 @@ class JeuPoker : public QWidget {
   // one, the pages shipped in the program directory otherwise.
   QString AdresseWeb(const QString& page) const;
 
+  // ---- The coach (coach/link.cpp) ----------------------------------------------------------
+  // A window beside the table that judges the holds of JEU 1 and keeps the session's record. It
+  // reads the table at these moments and never writes it; until it first opens it does nothing.
+  enum class MomentCoach {
+    Suivi,      // a hold, the deal or the language changed
+    Décision,   // the second drawing of JEU 1 starts: the hold as it stands is played
+    FinTirage,  // a drawing of either game is over
+  };
+  void AvertitCoach(MomentCoach moment);
+  // F2: opens the coach, or closes its window (the record goes on).
+  void BasculeCoach();
+  void OuvreCoach(bool montrer);
+  bool CoachVisible() const;
+  // The coach's window once made (its library loaded), else null.
+  QWidget* FenêtreCoach() const;
+  // talvero-drive's `coach` and `coach session` lines.
+  QString LigneCoach() const;
+  QString LigneSessionCoach() const;
+
   // ---- Form-level variables by name, for talvero-drive and tests --------------------------
   struct Variable {
     int low = -1, high = -1;  // -1, -1 for a scalar
@@ -573,4 +594,7 @@ class JeuPoker : public QWidget {
   std::shared_ptr<pics::CardFaces> cardFaces_;  // drawn on a worker, the faces after the first frame
   bool firstFrameSeen_ = false;                 // the first frame has been seen
   QHash<QString, Variable> variables_;
+  coach::Table TableCoach() const;
+  std::unique_ptr<coach::Coach> coach_;
+  std::unique_ptr<CoachWindow> coachWindow_;
 };

@@ -314,6 +314,7 @@ int VbKeyCode(const QKeyEvent* e) {
     case Qt::Key_Down: return 40;
     default: break;
   }
+  if (k >= Qt::Key_F1 && k <= Qt::Key_F12) return 112 + (k - Qt::Key_F1);
   if (k >= 0x20 && k <= 0x7E) return k;
   return 0;
 }

@@ -295,4 +295,5 @@ void JeuPoker::ModifieLangue() {
   LangueVar = anglais ? 100 : 0;
   TraduitAlerte(anglais);
   ConstruitAides(anglais);
+  AvertitCoach(MomentCoach::Suivi);
 }

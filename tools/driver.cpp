@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QPixmap>
 #include <QRegularExpression>
 #include <QTimer>
 
@@ -78,6 +80,8 @@ QKeyEvent MakeKey(QEvent::Type type, int code) {
     key = Qt::Key_Return;
   } else if (code == 27) {
     key = Qt::Key_Escape;
+  } else if (code >= 112 && code <= 123) {
+    key = Qt::Key_F1 + (code - 112);
   } else if (code >= 0x20 && code <= 0x7E) {
     text = QChar(code);
   }
@@ -181,6 +185,15 @@ void Driver::Execute(const QString& rawLine) {
     QWidget* shown =
         !form_.isVisible() && form_.AfficheForm->isVisible() ? static_cast<QWidget*>(form_.AfficheForm) : &form_;
     if (!shown->grab().save(path, "PNG")) Error(QStringLiteral("%1 cannot be written").arg(rest));
+  } else if (cmd == "coach") {
+    if (rest.isEmpty())
+      out_(form_.LigneCoach());
+    else if (rest == "session")
+      out_(form_.LigneSessionCoach());
+    else if (rest.startsWith(QLatin1String("shot ")))
+      CoachShot(rest.mid(5).trimmed());
+    else
+      return Error(QStringLiteral("coach takes nothing, session or shot FILE"));
   } else if (cmd == "close") {
     form_.close();
   } else if (cmd == "mci") {
@@ -280,6 +293,10 @@ void Driver::Get(const QString& text) {
     if (t.prop == "Visible") return out_(head + Bool(form_.isVisible()));
     return Error(QStringLiteral("JeuPoker has no property %1").arg(t.prop));
   }
+  if (t.name == "Coach" && t.index < 0) {
+    if (t.prop == "Visible") return out_(head + Bool(form_.CoachVisible()));
+    return Error(QStringLiteral("Coach has no property %1").arg(t.prop));
+  }
   if (TimerControl* timer = t.index < 0 ? form_.FindTimer(t.name) : nullptr) {
     if (t.prop == "Interval") return out_(head + QString::number(timer->Interval()));
     if (t.prop == "Enabled") return out_(head + Bool(timer->Enabled()));
@@ -346,4 +363,22 @@ void Driver::File(const QString& name) {
   if (!info.exists() || info.isDir()) return out_(name + " absent");
   if (!f.open(QIODevice::ReadOnly)) return Error(QStringLiteral("%1 cannot be read").arg(name));
   out_(name + "=" + QString::fromLatin1(f.readAll().toHex()));
+}
+
+void Driver::CoachShot(const QString& file) {
+  QWidget* coach = form_.FenêtreCoach();
+  if (!coach || !coach->isVisible()) return Error(QStringLiteral("the coach is not open"));
+  const QString path = startDirectory.isEmpty() ? file : QDir(startDirectory).absoluteFilePath(file);
+  const QPixmap table = form_.grab();
+  const QPixmap beside = coach->grab();
+  const qreal dpr = table.devicePixelRatio();
+  QPixmap both(QSize(qRound((form_.width() + 8 + coach->width()) * dpr),
+                     qRound(std::max(form_.height(), coach->height()) * dpr)));
+  both.setDevicePixelRatio(dpr);
+  both.fill(Qt::black);
+  QPainter p(&both);
+  p.drawPixmap(0, 0, table);
+  p.drawPixmap(form_.width() + 8, 0, beside);
+  p.end();
+  if (!both.save(path, "PNG")) Error(QStringLiteral("%1 cannot be written").arg(file));
 }

@@ -42,6 +42,8 @@ class Driver {
   void Move(const QString& target);
   void Key(const QString& code);
   void Get(const QString& target);
+  // The table and the coach's window side by side, as PNG.
+  void CoachShot(const QString& file);
   void Var(const QString& target, bool set, const QString& value);
   void File(const QString& name);
   void Error(const QString& reason);

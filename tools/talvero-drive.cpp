@@ -43,14 +43,17 @@ int main(int argc, char** argv) {
 
   QString dir;
   QString screen;
+  bool coach = false;
   const QStringList args = QCoreApplication::arguments();
   for (int i = 1; i < args.size(); ++i) {
     if (args[i] == "--dir" && i + 1 < args.size()) {
       dir = args[++i];
     } else if (args[i] == "--screen" && i + 1 < args.size()) {
       screen = args[++i];
+    } else if (args[i] == "--coach") {
+      coach = true;
     } else {
-      std::fprintf(stderr, "usage: talvero-drive [--dir DIR] [--screen WxH] < commands\n");
+      std::fprintf(stderr, "usage: talvero-drive [--dir DIR] [--screen WxH] [--coach] < commands\n");
       return 2;
     }
   }
@@ -108,6 +111,7 @@ int main(int argc, char** argv) {
   };
   form.Form_Load();
   platform.onYield = nullptr;
+  if (coach) form.OuvreCoach(true);
   QCoreApplication::processEvents();
   std::string line;
   while (std::getline(std::cin, line)) {

@@ -1,0 +1,156 @@
+#include "coach/coach.h"
+
+#include <future>
+#include <memory>
+#include <mutex>
+
+#include "odds/engine.h"
+
+namespace coach {
+
+namespace {
+
+// The tables of the three decks, each built once on a worker.
+class Analyst {
+ public:
+  static Analyst& Get() {
+    static Analyst analyst;
+    return analyst;
+  }
+
+  void Prepare(int jokers) {
+    const std::lock_guard lock(mutex_);
+    auto& f = tables_[static_cast<std::size_t>(jokers)];
+    if (!f.valid())
+      f = std::async(std::launch::async, [jokers] {
+            return std::make_shared<const odds::Tables>(odds::Tables::ForGame(jokers));
+          }).share();
+  }
+
+  std::vector<odds::Hold> Analyse(const odds::Hand& hand, int jokers) {
+    Prepare(jokers);
+    std::shared_future<std::shared_ptr<const odds::Tables>> f;
+    {
+      const std::lock_guard lock(mutex_);
+      f = tables_[static_cast<std::size_t>(jokers)];
+    }
+    const odds::PayTable pay = odds::PayTableClassic(jokers);
+    if (f.wait_for(std::chrono::seconds(0)) == std::future_status::ready) return odds::AnalyseHand(*f.get(), pay, hand);
+    return odds::AnalyseHandDirect(jokers, pay, hand, 1);
+  }
+
+ private:
+  // The classifier the workers use is made first, so that it outlives this.
+  Analyst() { odds::GameClassifier::Get(); }
+  ~Analyst() {
+    for (auto& f : tables_)
+      if (f.valid()) f.wait();
+  }
+  std::mutex mutex_;
+  std::array<std::shared_future<std::shared_ptr<const odds::Tables>>, 3> tables_;
+};
+
+bool SameDeal(const Judgement& j, const Table& t) {
+  return j.valid && j.hand == t.hand && j.jokers == t.jokers && j.mise == t.mise && j.stake == t.stake;
+}
+
+}  // namespace
+
+Judgement Judge(const std::array<std::uint8_t, 5>& hand, int jokers, int mise, long long stake) {
+  odds::Hand h;
+  for (int i = 0; i < 5; ++i) h[static_cast<std::size_t>(i)] = hand[static_cast<std::size_t>(i)];
+  const odds::PayTable pay = odds::PayTableClassic(jokers);
+  const std::vector<odds::Hold> holds = Analyst::Get().Analyse(h, jokers);
+  Judgement j;
+  j.valid = true;
+  j.hand = hand;
+  j.jokers = jokers;
+  j.mise = mise;
+  j.stake = stake;
+  for (std::size_t k = 0; k < holds.size() && k < j.holds.size(); ++k) {
+    const odds::Hold& o = holds[k];
+    std::uint64_t paying = 0;
+    for (int c = 0; c < odds::kClasses; ++c)
+      if (pay[static_cast<std::size_t>(c)] > 0) paying += o.counts[static_cast<std::size_t>(c)];
+    j.holds[k].held = o.held;
+    j.holds[k].ev = o.ev * mise;
+    j.holds[k].pays = o.total ? static_cast<double>(paying) / o.total : 0;
+  }
+  return j;
+}
+
+void Prepare(int jokers) { Analyst::Get().Prepare(jokers); }
+
+void Coach::Follow(const Table& t) {
+  r_.english = t.english;
+  if (t.between) {
+    if (!SameDeal(r_.current, t)) r_.current = Judge(t.hand, t.jokers, t.mise, t.stake);
+    r_.held = t.held;
+    r_.phase = Phase::Between;
+  } else if (r_.phase == Phase::Between) {
+    r_.phase = Phase::Idle;
+  }
+  Changed();
+}
+
+void Coach::Decide(const Table& t) {
+  if (!SameDeal(r_.current, t)) r_.current = Judge(t.hand, t.jokers, t.mise, t.stake);
+  const Judgement& j = r_.current;
+  Decision d{j, t.held, j.Cost(t.held), t.automatic};
+  Tally& tally = t.automatic ? r_.automatic : r_.player;
+  ++tally.decisions;
+  tally.played += j.Of(t.held).ev;
+  tally.best += j.Best().ev;
+  tally.stakes += static_cast<double>(j.stake);
+  if (d.cost > 0) {
+    ++tally.mistakes;
+    tally.lost += d.cost;
+    r_.mistakes.push_front(d);
+    if (r_.mistakes.size() > kMistakesKept) r_.mistakes.pop_back();
+  }
+  r_.last = d;
+  decided_ = true;
+  Changed();
+}
+
+void Coach::DrawingOver(const Table& t) {
+  r_.english = t.english;
+  r_.chart.push_back({static_cast<double>(t.credit), r_.player.lost + r_.automatic.lost});
+  if (t.roundOver && decided_) {
+    r_.phase = Phase::Verdict;
+    decided_ = false;
+  } else {
+    Follow(t);
+    return;
+  }
+  Changed();
+}
+
+QString HoldText(unsigned held) {
+  QString s;
+  for (int i = 0; i < 5; ++i) s += (held & (1u << i)) ? QLatin1Char('1') : QLatin1Char('0');
+  return s;
+}
+
+QString HoldLine(const Table& t) {
+  if (!t.between) return QStringLiteral("coach=idle");
+  const Judgement j = Judge(t.hand, t.jokers, t.mise, t.stake);
+  return QStringLiteral("coach=held %1 ev %2 best %3 bestev %4")
+      .arg(HoldText(t.held), QString::number(j.Of(t.held).ev, 'f', 6), HoldText(j.Best().held),
+           QString::number(j.Best().ev, 'f', 6));
+}
+
+QString SessionLine(const Record* r) {
+  const Tally none;
+  const Tally& p = r ? r->player : none;
+  const Tally& a = r ? r->automatic : none;
+  return QStringLiteral("coach-session=decisions %1 mistakes %2 lost %3 auto %4 automistakes %5 autolost %6")
+      .arg(p.decisions)
+      .arg(p.mistakes)
+      .arg(QString::number(p.lost, 'f', 6))
+      .arg(a.decisions)
+      .arg(a.mistakes)
+      .arg(QString::number(a.lost, 'f', 6));
+}
+
+}  // namespace coach

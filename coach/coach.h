@@ -1,0 +1,64 @@
+// The coach: it judges every hold of JEU 1 by exact expected value, gives the verdict on each
+// hold played, and keeps the session's record (coach/record.h).
+//
+// The game tells it what the table shows at three moments (after each change between the
+// drawings, when the second drawing starts, when a drawing is over) through a snapshot it only
+// reads; nothing in the game depends on it. The judging uses the odds engine: the engine's tables
+// of the deck are built on a worker the first time a deck is judged, and until they are ready a
+// deal is judged by walking its draws directly, which gives the same values.
+#pragma once
+
+#include <QString>
+#include <array>
+#include <cstdint>
+
+#include "coach/record.h"
+
+namespace coach {
+
+// What the coach reads of the table.
+struct Table {
+  bool between = false;  // JEU 1 between its two drawings, no duel running
+  bool roundOver = false;
+  std::array<std::uint8_t, 5> hand{};  // card codes by position
+  unsigned held = 0;                   // bit i: the card at position i stays
+  int jokers = 0;
+  int mise = 1;
+  long long stake = 1;
+  long long credit = 0;
+  bool automatic = false;  // the automatic mode plays
+  bool english = false;
+};
+
+// The 32 holds of a deal, best first, valued at `mise`.
+Judgement Judge(const std::array<std::uint8_t, 5>& hand, int jokers, int mise, long long stake);
+
+// Starts building the tables of a deck in the background, so that the first deal is judged fast.
+void Prepare(int jokers);
+
+class Coach {
+ public:
+  const Record& record() const { return r_; }
+
+  // Between the drawings after any change, and on a change of language.
+  void Follow(const Table& t);
+  // The second drawing starts: the hold as it stands now is the one played.
+  void Decide(const Table& t);
+  // A drawing of either game is over.
+  void DrawingOver(const Table& t);
+
+ private:
+  void Changed() { ++r_.changes; }
+  Record r_;
+  bool decided_ = false;  // a decision waits for the end of its drawing
+};
+
+// talvero-drive's lines: "coach=idle" or "coach=held H ev E best B bestev F", and the session's
+// tallies (all zero when the coach never opened).
+QString HoldLine(const Table& t);
+QString SessionLine(const Record* r);
+
+// "10110": position 0 first, 1 for a card held.
+QString HoldText(unsigned held);
+
+}  // namespace coach

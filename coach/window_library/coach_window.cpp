@@ -1,0 +1,297 @@
+// The coach's window: the 32 holds of the hand between the drawings, the verdict on the hold
+// played, the session's record with its last mistakes, and a chart of the session.
+#include <QApplication>
+#include <QChart>
+#include <QChartView>
+#include <QFont>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineSeries>
+#include <QListWidget>
+#include <QPushButton>
+#include <QScreen>
+#include <QTableWidget>
+#include <QVBoxLayout>
+#include <QValueAxis>
+#include <QWidget>
+
+#include "coach/record.h"
+#include "coach/window.h"
+
+namespace {
+
+using coach::Decision;
+using coach::Judgement;
+using coach::Phase;
+using coach::Record;
+
+QString Card(std::uint8_t code) {
+  if (code >= 52) return QStringLiteral("JK");
+  static const char* const suits[4] = {"\u2663", "\u2666", "\u2665", "\u2660"};
+  return QString(QLatin1Char("23456789TJQKA"[code % 13])) + QString::fromUtf8(suits[code / 13]);
+}
+
+// The cards of a deal, those not held shown as a dot.
+QString Held(const Judgement& j, unsigned held) {
+  QStringList cards;
+  for (int i = 0; i < 5; ++i)
+    cards << ((held & (1u << i)) ? Card(j.hand[static_cast<std::size_t>(i)]) : QStringLiteral("\u00b7"));
+  return cards.join(QLatin1Char(' '));
+}
+
+QString Hand(const Judgement& j) { return Held(j, 31); }
+
+QString Credits(double v) { return QString::number(v, 'f', 2); }
+
+class Window : public QWidget, public CoachWindow {
+ public:
+  explicit Window(const Record* record) : record_(record) {
+    setWindowTitle(QStringLiteral("Coach"));
+    setObjectName(QStringLiteral("Coach"));
+    // Shown, it leaves the keyboard to the table, where Space plays.
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    auto* layout = new QVBoxLayout(this);
+
+    heading_ = new QLabel(this);
+    QFont big = heading_->font();
+    big.setBold(true);
+    big.setPointSizeF(big.pointSizeF() * 1.15);
+    heading_->setFont(big);
+    heading_->setWordWrap(true);
+    layout->addWidget(heading_);
+    detail_ = new QLabel(this);
+    detail_->setWordWrap(true);
+    layout->addWidget(detail_);
+
+    holds_ = new QTableWidget(coach::kHolds, 3, this);
+    holds_->verticalHeader()->setVisible(false);
+    holds_->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    holds_->setSelectionMode(QAbstractItemView::NoSelection);
+    holds_->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
+    holds_->verticalHeader()->setDefaultSectionSize(holds_->fontMetrics().height() + 4);
+    for (int r = 0; r < coach::kHolds; ++r)
+      for (int c = 0; c < 3; ++c) {
+        auto* item = new QTableWidgetItem;
+        item->setTextAlignment(c == 0 ? Qt::AlignLeft | Qt::AlignVCenter : Qt::AlignRight | Qt::AlignVCenter);
+        holds_->setItem(r, c, item);
+      }
+    layout->addWidget(holds_, 3);
+    back_ = new QPushButton(this);
+    back_->setVisible(false);
+    connect(back_, &QPushButton::clicked, this, [this] {
+      shownMistake_ = -1;
+      Update();
+    });
+    layout->addWidget(back_);
+
+    session_ = new QGroupBox(this);
+    auto* sessionLayout = new QHBoxLayout(session_);
+    tallies_ = new QLabel(session_);
+    tallies_->setTextFormat(Qt::RichText);
+    sessionLayout->addWidget(tallies_, 1);
+    auto* mistakesColumn = new QVBoxLayout;
+    mistakesTitle_ = new QLabel(session_);
+    mistakesTitle_->setWordWrap(true);
+    mistakesColumn->addWidget(mistakesTitle_);
+    mistakes_ = new QListWidget(session_);
+    connect(mistakes_, &QListWidget::itemActivated, this, [this](QListWidgetItem* item) {
+      shownMistake_ = mistakes_->row(item);
+      Update();
+    });
+    mistakesColumn->addWidget(mistakes_, 1);
+    sessionLayout->addLayout(mistakesColumn, 1);
+    layout->addWidget(session_, 2);
+
+    credit_ = new QLineSeries;
+    lost_ = new QLineSeries;
+    auto* chart = new QChart;
+    chart->addSeries(credit_);
+    chart->addSeries(lost_);
+    axisX_ = new QValueAxis;
+    axisY_ = new QValueAxis;
+    axisX_->setLabelFormat(QStringLiteral("%d"));
+    axisY_->setLabelFormat(QStringLiteral("%.0f"));
+    chart->addAxis(axisX_, Qt::AlignBottom);
+    chart->addAxis(axisY_, Qt::AlignLeft);
+    for (QLineSeries* s : {credit_, lost_}) {
+      s->attachAxis(axisX_);
+      s->attachAxis(axisY_);
+    }
+    chart->legend()->setAlignment(Qt::AlignBottom);
+    chart->setMargins(QMargins(2, 2, 2, 2));
+    chart_ = chart;
+    auto* view = new QChartView(chart, this);
+    view->setRenderHint(QPainter::Antialiasing);
+    view->setMinimumHeight(170);
+    layout->addWidget(view, 2);
+
+    resize(480, 740);
+    Update();
+  }
+
+  void Refresh() override {
+    if (pending_) return;
+    pending_ = true;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+          pending_ = false;
+          if (isVisible()) Update();
+        },
+        Qt::QueuedConnection);
+  }
+
+  void SetShown(bool shown) override {
+    if (shown) Update();
+    setVisible(shown);
+  }
+  bool Shown() const override { return isVisible(); }
+  QWidget* Widget() override { return this; }
+
+ protected:
+  // F2 closes the window from the window too.
+  void keyPressEvent(QKeyEvent* e) override {
+    if (e->key() == Qt::Key_F2)
+      hide();
+    else
+      QWidget::keyPressEvent(e);
+  }
+
+ public:
+  void PlaceBeside(const QRect& table) override {
+    QRect area = QRect(QPoint(0, 0), size());
+    if (QScreen* s = QApplication::screenAt(table.center())) area = s->availableGeometry();
+    int x = table.right() + 8;
+    if (x + width() > area.right()) x = std::max(area.left(), area.right() - width());
+    move(x, std::max(area.top(), table.top()));
+  }
+
+ private:
+  QString T(const char* fr, const char* en) const { return QString::fromUtf8(record_->english ? en : fr); }
+
+  void Update() {
+    const Record& r = *record_;
+    back_->setText(T("Revenir à la main en cours", "Back to the hand in play"));
+    session_->setTitle(T("Session", "Session"));
+    mistakesTitle_->setText(T("Dernières erreurs (double-clic : revoir)", "Last mistakes (double-click: review)"));
+    holds_->setHorizontalHeaderLabels(
+        {T("Cartes gardées", "Cards held"), T("Espérance", "Expected"), T("Paie", "Pays")});
+    credit_->setName(T("Crédit", "Credit"));
+    lost_->setName(T("Perte espérée des erreurs", "Expected loss to mistakes"));
+    chart_->setTitle(T("Après chaque tirage", "After each drawing"));
+
+    const bool review = shownMistake_ >= 0 && shownMistake_ < static_cast<int>(r.mistakes.size());
+    back_->setVisible(review);
+    if (review) {
+      const Decision& d = r.mistakes[static_cast<std::size_t>(shownMistake_)];
+      heading_->setText(T("Erreur : ", "Mistake: ") + Hand(d.judgement));
+      detail_->setText(Verdict(d));
+      ShowHolds(d.judgement, d.played);
+    } else if (r.phase == Phase::Between) {
+      const Judgement& j = r.current;
+      heading_->setText(T("Entre les tirages : ", "Between the drawings: ") + Hand(j) + T(", mise ", ", bet ") +
+                        QString::number(j.mise));
+      const double diff = j.Cost(r.held);
+      detail_->setText(T("Votre choix ", "Your hold ") + Held(j, r.held) + " : " + Credits(j.Of(r.held).ev) + "\n" +
+                       T("Le meilleur ", "The best ") + Held(j, j.Best().held) + " : " + Credits(j.Best().ev) + "\n" +
+                       (diff > 0 ? T("Écart : ", "Difference: ") + Credits(diff) + T(" crédits", " credits")
+                                 : T("Votre choix est le meilleur.", "Your hold is the best.")));
+      ShowHolds(j, r.held);
+    } else if (r.phase == Phase::Verdict) {
+      heading_->setText(T("Verdict : ", "Verdict: ") + Hand(r.last.judgement));
+      detail_->setText(Verdict(r.last));
+      ShowHolds(r.last.judgement, r.last.played);
+    } else {
+      heading_->setText(T("Rien à juger pour l'instant", "Nothing to judge now"));
+      detail_->setText(T("Le coach juge chaque choix entre les deux tirages du JEU 1.",
+                         "The coach judges every hold between the two drawings of JEU 1."));
+      ShowHolds(Judgement{}, 0);
+    }
+    ShowSession(r);
+    ShowChart(r);
+  }
+
+  QString Verdict(const Decision& d) const {
+    const QString who = d.automatic ? T(" (mode automatique)", " (automatic mode)") : QString();
+    if (d.cost <= 0) return T("Bon choix", "Right") + who + " : " + Held(d.judgement, d.played);
+    return T("Erreur", "Mistake") + who + " : " + Held(d.judgement, d.played) + T(" a coûté ", " cost ") +
+           Credits(d.cost) + T(" crédits en espérance. Le meilleur : ", " credits in expectation. The best: ") +
+           Held(d.judgement, d.judgement.Best().held);
+  }
+
+  void ShowHolds(const Judgement& j, unsigned marked) {
+    for (int r = 0; r < coach::kHolds; ++r) {
+      const coach::HoldValue& h = j.holds[static_cast<std::size_t>(r)];
+      const bool mine = j.valid && h.held == marked;
+      const bool best = j.valid && coach::EquallyRight(h.ev, j.Best().ev);
+      const QString texts[3] = {
+          j.valid ? (mine ? QStringLiteral("\u25b6 ") : QStringLiteral("   ")) + Held(j, h.held) : QString(),
+          j.valid ? Credits(h.ev) : QString(), j.valid ? QString::number(100 * h.pays, 'f', 1) + " %" : QString()};
+      for (int c = 0; c < 3; ++c) {
+        QTableWidgetItem* item = holds_->item(r, c);
+        item->setText(texts[c]);
+        QFont f = item->font();
+        f.setBold(mine);
+        item->setFont(f);
+        item->setBackground(best ? QColor(0xd8, 0xf0, 0xd0) : mine ? QColor(0xf8, 0xe0, 0xc0) : QColor(Qt::white));
+      }
+    }
+  }
+
+  QString TallyText(const coach::Tally& t) const {
+    return T("Décisions : ", "Decisions: ") + QString::number(t.decisions) + "<br>" + T("Erreurs : ", "Mistakes: ") +
+           QString::number(t.mistakes) + "<br>" + T("Justesse : ", "Accuracy: ") +
+           QString::number(t.Accuracy(), 'f', 1) + " %<br>" + T("Perdu aux erreurs : ", "Lost to mistakes: ") +
+           Credits(t.lost) + "<br>" + T("Retour de vos choix : ", "Return of the holds played: ") +
+           QString::number(t.PlayedReturn(), 'f', 2) + " %<br>" +
+           T("Retour du jeu parfait : ", "Return of perfect play: ") + QString::number(t.BestReturn(), 'f', 2) + " %";
+  }
+
+  void ShowSession(const Record& r) {
+    tallies_->setText("<b>" + T("Vos choix", "Your holds") + "</b><br>" + TallyText(r.player) + "<br><b>" +
+                      T("Mode automatique", "Automatic mode") + "</b><br>" + TallyText(r.automatic));
+    if (shownMistakes_ != r.changes || mistakes_->count() != static_cast<int>(r.mistakes.size())) {
+      mistakes_->clear();
+      for (const Decision& d : r.mistakes)
+        mistakes_->addItem(Hand(d.judgement) + "  " + Held(d.judgement, d.played) + " \u2192 " +
+                           Held(d.judgement, d.judgement.Best().held) + "  -" + Credits(d.cost));
+      shownMistakes_ = r.changes;
+    }
+  }
+
+  void ShowChart(const Record& r) {
+    for (std::size_t i = static_cast<std::size_t>(credit_->count()); i < r.chart.size(); ++i) {
+      credit_->append(static_cast<double>(i + 1), r.chart[i].credit);
+      lost_->append(static_cast<double>(i + 1), r.chart[i].lost);
+    }
+    double top = 10;
+    for (const coach::ChartPoint& p : r.chart) top = std::max({top, p.credit, p.lost});
+    axisX_->setRange(0, std::max<double>(10, static_cast<double>(r.chart.size())));
+    axisY_->setRange(0, top * 1.05);
+  }
+
+  const Record* record_;
+  bool pending_ = false;
+  int shownMistake_ = -1;
+  long long shownMistakes_ = -1;
+  QLabel* heading_;
+  QLabel* detail_;
+  QTableWidget* holds_;
+  QPushButton* back_;
+  QGroupBox* session_;
+  QLabel* tallies_;
+  QListWidget* mistakes_;
+  QLabel* mistakesTitle_;
+  QChart* chart_;
+  QLineSeries* credit_;
+  QLineSeries* lost_;
+  QValueAxis* axisX_;
+  QValueAxis* axisY_;
+};
+
+}  // namespace
+
+extern "C" Q_DECL_EXPORT CoachWindow* TalveroCoachWindow(const coach::Record* record) { return new Window(record); }
