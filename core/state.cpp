@@ -1,5 +1,6 @@
 // The table: a new game (Initialise), the reset at the start of each classic round
 // (InitPremierTirage) and the classic pay tables.
+#include "core/pay_tables.h"
 #include "interface/JeuPoker.h"
 
 namespace {
@@ -9,40 +10,7 @@ bool Anglais(Byte langue) { return langue == 0 || langue == 2; }
 // The classic pay table for the number of jokers in force: one multiplier per hand class
 // 0..9 (pair of kings or aces .. five of a kind). Nothing (class 10) has no entry.
 void JeuPoker::RemplitTableGains() {
-  if (NbJokers == 0) {
-    TableGains(0) = 1;
-    TableGains(1) = 2;
-    TableGains(2) = 5;
-    TableGains(3) = 7;
-    TableGains(4) = 10;
-    TableGains(5) = 30;
-    TableGains(6) = 100;
-    TableGains(7) = 250;
-    TableGains(8) = 750;
-    TableGains(9) = 1000;
-  } else if (NbJokers == 1) {
-    TableGains(0) = 1;
-    TableGains(1) = 2;
-    TableGains(2) = 4;
-    TableGains(3) = 5;
-    TableGains(4) = 7;
-    TableGains(5) = 12;
-    TableGains(6) = 40;
-    TableGains(7) = 100;
-    TableGains(8) = 500;
-    TableGains(9) = 1000;
-  } else {
-    TableGains(0) = 1;
-    TableGains(1) = 2;
-    TableGains(2) = 3;
-    TableGains(3) = 4;
-    TableGains(4) = 5;
-    TableGains(5) = 7;
-    TableGains(6) = 25;
-    TableGains(7) = 70;
-    TableGains(8) = 300;
-    TableGains(9) = 750;
-  }
+  for (int i = 0; i <= 9; ++i) TableGains(i) = GainClassique(NbJokers, i);
 }
 
 // Row i of the pay table back to white on black, when it is the highlighted one.
