@@ -1,11 +1,9 @@
 // The table: a new game (Initialise), the reset at the start of each classic round
 // (InitPremierTirage) and the classic pay tables.
+#include "core/colours.h"
 #include "core/pay_tables.h"
+#include "core/table_facts.h"
 #include "interface/JeuPoker.h"
-
-namespace {
-bool Anglais(Byte langue) { return langue == 0 || langue == 2; }
-}  // namespace
 
 // The classic pay table for the number of jokers in force: one multiplier per hand class
 // 0..9 (pair of kings or aces .. five of a kind). Nothing (class 10) has no entry.
@@ -16,11 +14,11 @@ void JeuPoker::RemplitTableGains() {
 // Row i of the pay table back to white on black, when it is the highlighted one.
 void JeuPoker::EffaceLigneGagnante() {
   for (int i = 0; i <= 9; ++i) {
-    if (MainLabel(i).ForeColor() == 255) {
-      Maintitre(i).SetForeColor(0xFFFFFF);
-      MainLabel(i).SetForeColor(0xFFFFFF);
-      Maintitre(i).SetBackColor(0);
-      MainLabel(i).SetBackColor(0);
+    if (MainLabel(i).ForeColor() == couleur::kRouge) {
+      Maintitre(i).SetForeColor(couleur::kBlanc);
+      MainLabel(i).SetForeColor(couleur::kBlanc);
+      Maintitre(i).SetBackColor(couleur::kNoir);
+      MainLabel(i).SetBackColor(couleur::kNoir);
     }
   }
 }
@@ -52,7 +50,7 @@ void JeuPoker::Initialise() {
       Mains5(i).SetVisible(false);
       Gains5(i).SetVisible(false);
       UnADouzeLine(i).SetVisible(false);
-      UnADouzeTémoin(i).SetBackColor(0x808080);
+      UnADouzeTémoin(i).SetBackColor(couleur::kGris);
     }
   }
   Gains5(12).SetCaption(QString());
