@@ -7,14 +7,10 @@
 // protection.
 #include <cmath>
 
+#include "core/colours.h"
+#include "core/table_facts.h"
 #include "interface/JeuPoker.h"
 #include "services/platform.h"
-
-namespace {
-bool Anglais(Byte langue) { return langue == 0 || langue == 2; }
-QString MotJeter(Byte langue) { return Anglais(langue) ? QStringLiteral("REJECT") : QStringLiteral("JETER"); }
-constexpr int kDos = 54;  // Cartes(54), the card back
-}  // namespace
 
 void JeuPoker::RegisterClassicVariables() {
   // The round has no variables of its own beyond the table state bound with the core.
@@ -80,7 +76,7 @@ void JeuPoker::Tirage1() {
   // 1. A new round: settle what the last one left and forget the cards gone.
   if (NbTirées != 5) {
     InitPremierTirage();
-    for (int i = 0; i <= 4; ++i) Deal(i).SetMousePointer(99);
+    for (int i = 0; i <= 4; ++i) Deal(i).SetMousePointer(kCarte);
   }
   // 2.
   if (Doubler->Visible()) Doubler->SetVisible(false);
@@ -99,7 +95,7 @@ void JeuPoker::Tirage1() {
     int tirée = 0;
     for (;;) {
       Sys().DoEvents();
-      const bool àDonner = Deal(i).GetPicture() == Cartes(kDos).GetPicture() || Jouez(i).Caption() == MotJeter(Langue);
+      const bool àDonner = Deal(i).GetPicture() == Cartes(kDos).GetPicture() || Jouez(i).Caption() == MotCarteJetée();
       if (!àDonner) break;
       Sys().Randomize(Sys().Timer());
       tirée = Sys().RandomInt(static_cast<int>(TailleJeu));
@@ -159,16 +155,16 @@ void JeuPoker::Tirage1() {
     Gains->SetCaption(QString::number(GainMain));
     AfficheGain();
     if (SSGains->Top() == 630) {
-      Maintitre(RangMain).SetForeColor(255);
-      MainLabel(RangMain).SetForeColor(255);
-      Maintitre(RangMain).SetBackColor(49344);
-      MainLabel(RangMain).SetBackColor(49344);
+      Maintitre(RangMain).SetForeColor(couleur::kRouge);
+      MainLabel(RangMain).SetForeColor(couleur::kRouge);
+      Maintitre(RangMain).SetBackColor(couleur::kOcre);
+      MainLabel(RangMain).SetBackColor(couleur::kOcre);
     }
   }
 
   // 14. The round is over: the cards can no longer be acted on; a win offers the double-up.
   if (NbTirées == 10) {
-    for (int i = 0; i <= 4; ++i) Deal(i).SetMousePointer(12);
+    for (int i = 0; i <= 4; ++i) Deal(i).SetMousePointer(kInterdit);
     if (RangMain != 10) {
       for (int i = 0; i <= 4; ++i) Jouez(i).SetVisible(false);
       Doubler->SetVisible(true);
@@ -179,7 +175,7 @@ void JeuPoker::Tirage1() {
 // Turns down the cards to be replaced: the rejected ones, and at the start of a round every
 // card still face up.
 void JeuPoker::InitTirage() {
-  const QString jeter = MotJeter(Langue);
+  const QString jeter = MotCarteJetée();
   bool retournée = false;
   for (int i = 0; i <= 4; ++i) {
     if (Jouez(i).Caption() == jeter || (NbTirées == 0 && Deal(i).GetPicture() != Cartes(kDos).GetPicture())) {

@@ -1,20 +1,15 @@
 // JEU 2's bet level 1..12: the number of lines in play, always from line 1 upward. The two
 // buttons are a ring: 12 wraps to 1 at any credit, and the two steps that raise the stake
 // are refused silently when the credit does not cover them.
+#include "core/colours.h"
+#include "core/table_facts.h"
 #include "interface/JeuPoker.h"
-
-namespace {
-constexpr Long kJaune = 0x00FFFF;
-constexpr Long kGris = 0x808080;
-constexpr int kFlèche = 10;
-constexpr int kInterdit = 12;
-}  // namespace
 
 void JeuPoker::MetLigneEnJeu(int i, bool enJeu) {
   Mains5(i).SetVisible(enJeu);
   Gains5(i).SetVisible(enJeu);
   UnADouzeLine(i).SetVisible(enJeu);
-  UnADouzeTémoin(i).SetBackColor(enJeu ? kJaune : kGris);
+  UnADouzeTémoin(i).SetBackColor(enJeu ? couleur::kJaune : couleur::kGris);
 }
 
 void JeuPoker::RemetNiveauÀUn() {

@@ -3,15 +3,12 @@
 // is only shown, the second one's is the win. Between the drawings the player turns cards
 // face down, and exactly those are replaced.
 //
-// A position is face down exactly when its button shows the picture of Cartes(54): there is
+// A position is face down exactly when its button shows the picture of Cartes(kDos): there is
 // no other record of it. The animation yields at every step, so other handlers (a second
 // PLAY included) can run inside a drawing; nothing guards against it, as in the classic game.
+#include "core/table_facts.h"
 #include "interface/JeuPoker.h"
 #include "services/platform.h"
-
-namespace {
-constexpr int kDos = 54;  // Cartes(54), the card back
-}  // namespace
 
 Byte JeuPoker::PositionLigne(int ligne, int j) {
   if (ligne <= 5) return vb::CByte(5 * (ligne - 1) + j);
@@ -42,7 +39,7 @@ void JeuPoker::Tirage5() {
   // callers and by InitPremierTirage5, not here).
   if (NbTirées != 25) {
     InitPremierTirage5();
-    for (int p = 0; p <= 24; ++p) Deal2(p).SetMousePointer(99);
+    for (int p = 0; p <= 24; ++p) Deal2(p).SetMousePointer(kCarte);
   }
   if (Doubler5->Visible()) Doubler5->SetVisible(false);
   if (NbTirées == 0 || NbTirées == 25) Jouez5->SetVisible(false);
@@ -117,7 +114,7 @@ void JeuPoker::RègleLignes() {
 }
 
 void JeuPoker::ConclutTirage5() {
-  for (int p = 0; p <= 24; ++p) Deal2(p).SetMousePointer(12);
+  for (int p = 0; p <= 24; ++p) Deal2(p).SetMousePointer(kInterdit);
   SSConseils5->SetVisible(false);
   const long long mise = static_cast<long long>(Niveau) * Mise;
   if (GainTirage > 0) {

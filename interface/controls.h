@@ -14,6 +14,7 @@
 #include <functional>
 #include <vector>
 
+#include "core/colours.h"
 #include "core/vb.h"
 
 constexpr int kTwipsPerPixel = 15;
@@ -118,8 +119,8 @@ class Control : public QWidget {
   int index_;
   QString caption_;
   bool visible_ = true;
-  Long foreColor_ = 0;
-  Long backColor_ = 0xC0C0C0;
+  Long foreColor_ = couleur::kNoir;
+  Long backColor_ = couleur::kGrisClair;
   int mousePointer_ = 0;
   int bevelWidth_ = 0;
   Picture picture_ = nullptr;

@@ -2,12 +2,8 @@
 #include <QStringList>
 #include <span>
 
+#include "core/table_facts.h"
 #include "interface/JeuPoker.h"
-
-namespace {
-// Langue 0 or 2 is English, anything else French.
-bool English(Byte langue) { return langue == 0 || langue == 2; }
-}  // namespace
 
 void JeuPoker::RemplitNomsValeurs() {
   static const char* const kRangsFr[13] = {"2", "3", "4", "5", "6", "7", "8", "9", "10", "VALET", "DAME", "ROI", "AS"};
@@ -15,7 +11,7 @@ void JeuPoker::RemplitNomsValeurs() {
                                            "9", "10", "JACK", "QUEEN", "KING", "ACE"};
   static const char* const kCouleursFr[4] = {" de Trèfle", " de Carreau", " de Coeur", " de Pique"};
   static const char* const kCouleursEn[4] = {" of Clubs", " of Diamonds", " of Hearts", " of Spades"};
-  const bool english = English(Langue);
+  const bool english = Anglais(Langue);
   for (int s = 0; s <= 3; ++s) NomsCouleurs(s) = QString::fromUtf8(english ? kCouleursEn[s] : kCouleursFr[s]);
   for (int s = 0; s <= 3; ++s)
     for (int r = 0; r <= 12; ++r)
@@ -27,7 +23,7 @@ void JeuPoker::RemplitNomsMains() {
                                       "CARRE",   "Q.F.",     "Q.F.R.", "POKER",  "RIEN"};
   static const char* const kEn[11] = {"1 PAIR",    "2 PAIRS", "3 of KIND", "Straight",  "FLUSH",  "FULL",
                                       "4 of KIND", "S.FLUSH", "R.FLUSH",   "5 of KIND", "NOTHING"};
-  const bool english = English(Langue);
+  const bool english = Anglais(Langue);
   for (int i = 0; i <= 10; ++i) NomsMains(i) = QString::fromUtf8(english ? kEn[i] : kFr[i]);
 }
 
@@ -242,12 +238,12 @@ void JeuPoker::TraduitAlerte(bool versAnglais) {
 }
 
 void JeuPoker::ModifieLangue() {
-  const bool anglais = English(Langue);
+  const bool anglais = Anglais(Langue);
   // 1. The language buttons and their lamps.
   const int choisi = anglais ? 0 : 1;
-  SSLangue(choisi).SetMousePointer(12);
+  SSLangue(choisi).SetMousePointer(kInterdit);
   SSLangue(choisi).SetBevelWidth(0);
-  SSLangue(1 - choisi).SetMousePointer(10);
+  SSLangue(1 - choisi).SetMousePointer(kFlèche);
   SSLangue(1 - choisi).SetBevelWidth(3);
   PSSlangue(choisi).SetVisible(true);
   PSSlangue(1 - choisi).SetVisible(false);
@@ -258,12 +254,10 @@ void JeuPoker::ModifieLangue() {
   JouerImage(0).SetPicture(JouerImage(image).GetPicture());
   // 3. PLAY, and each hold word by what it says now.
   Jouer->SetCaption(anglais ? QStringLiteral("PLAY") : QStringLiteral("JOUER"));
-  static const char* const kMotsFr[3] = {"JOUEZ", "GARDER", "JETER"};
-  static const char* const kMotsEn[3] = {"PLAY", "HOLD", "REJECT"};
   for (int i = 0; i <= 4; ++i) {
-    for (int m = 0; m < 3; ++m) {
-      if (Jouez(i).Caption() == QLatin1String(anglais ? kMotsFr[m] : kMotsEn[m])) {
-        Jouez(i).SetCaption(QString::fromLatin1(anglais ? kMotsEn[m] : kMotsFr[m]));
+    for (const MotJouez& mot : {kMotJouez, kMotGarder, kMotJeter}) {
+      if (Jouez(i).Caption() == Mot(mot, !anglais)) {
+        Jouez(i).SetCaption(Mot(mot, anglais));
         break;
       }
     }
@@ -271,7 +265,7 @@ void JeuPoker::ModifieLangue() {
   // 4.
   Quitte1X5->SetCaption(anglais ? QStringLiteral("QUIT") : QStringLiteral("QUITTE"));
   Double1X5->SetCaption(QStringLiteral("DOUBLE"));
-  Jouez5->SetCaption(anglais ? QStringLiteral("PLAY") : QStringLiteral("JOUEZ"));
+  Jouez5->SetCaption(Mot(kMotJouez, anglais));
   Quitte5X5->SetCaption(anglais ? QStringLiteral("QUIT") : QStringLiteral("QUITTE"));
   Double5X5->SetCaption(QStringLiteral("DOUBLE"));
   Conseils5->SetCaption(anglais ? QStringLiteral("HELP") : QStringLiteral("CONSEILS"));

@@ -3,12 +3,9 @@
 // and the captions of the panel.
 #include <cmath>
 
+#include "core/colours.h"
 #include "interface/JeuPoker.h"
 #include "interface/bind.h"
-
-namespace {
-constexpr Long kSarcelle = 0x404000;  // dark teal of the percentage and count columns
-}
 
 void JeuPoker::Probabilités() {
   if (NbTirées == 10) {
@@ -21,7 +18,7 @@ void JeuPoker::Probabilités() {
 
 void JeuPoker::CompteProbabilités() {
   // The hold word by language; any other caption counts as rejected.
-  const QString garder = (Langue == 0 || Langue == 2) ? QStringLiteral("HOLD") : QStringLiteral("GARDER");
+  const QString garder = MotCarteGardée();
 
   NbGardées = 0;
   NbRejetées = 0;
@@ -164,8 +161,8 @@ void JeuPoker::AfficheProbabilités() {
   for (int i = 0; i <= 11; ++i) {
     if (i == 9 && NbJokers == 0) continue;
     const Long n = Réalisations(i);
-    Pourcentages(i).SetBackColor(n < 1 ? 0 : kSarcelle);
-    Fractions(i).SetBackColor(n < 1 ? 0 : kSarcelle);
+    Pourcentages(i).SetBackColor(n < 1 ? couleur::kNoir : couleur::kSarcelle);
+    Fractions(i).SetBackColor(n < 1 ? couleur::kNoir : couleur::kSarcelle);
 
     // The percentage is cut, never rounded, after six decimals.
     const double p = std::floor(100000000.0 * n / static_cast<double>(TotalTirages)) / 1000000.0;
@@ -201,8 +198,8 @@ void JeuPoker::EffaceProbabilités() {
     PourcDéc(i).SetCaption(QString());
     Pourcentages(i).SetCaption(QString());
     Fractions(i).SetCaption(QString());
-    Pourcentages(i).SetBackColor(0);
-    Fractions(i).SetBackColor(0);
+    Pourcentages(i).SetBackColor(couleur::kNoir);
+    Fractions(i).SetBackColor(couleur::kNoir);
   }
 }
 

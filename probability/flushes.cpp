@@ -5,7 +5,7 @@
 
 void JeuPoker::ProbCouleur() {
   CouleurPossible = false;
-  const QString garder = (Langue == 0 || Langue == 2) ? QStringLiteral("HOLD") : QStringLiteral("GARDER");
+  const QString garder = MotCarteGardée();
 
   // n cards of the suit can still come: its natural cards off the table and the jokers
   // off the table (every table joker counts as a table card of the suit).

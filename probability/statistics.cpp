@@ -1,10 +1,9 @@
 // The statistics panel: the odds at rest for 0, 1 and 2 jokers (five-card sets of a full
 // deck of 52, 53 or 54 cards) and the tally of hands played.
+#include "core/colours.h"
 #include "interface/JeuPoker.h"
 
 namespace {
-constexpr Long kSarcelle = 0x404000;
-
 struct Repos {
   int entier;
   const char* décimales;
@@ -51,8 +50,8 @@ void JeuPoker::AfficheStatistiquesRepos() {
     PourcDéc(i).SetCaption(QString::number(MainsPossibles(i, NbJokers)));
     Pourcentages(i).SetCaption(TextePourcentages(i, NbJokers));
     Fractions(i).SetCaption(TexteMainsPossibles(i, NbJokers));
-    Pourcentages(i).SetBackColor(kSarcelle);
-    Fractions(i).SetBackColor(kSarcelle);
+    Pourcentages(i).SetBackColor(couleur::kSarcelle);
+    Fractions(i).SetBackColor(couleur::kSarcelle);
   }
 }
 

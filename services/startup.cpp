@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QDir>
 
+#include "core/table_facts.h"
 #include "interface/JeuPoker.h"
 #include "services/platform.h"
 #include "services/startup_stages.h"
@@ -58,8 +59,8 @@ void JeuPoker::Form_Load() {
   vb::SkipOnError([&] { RemplitNomsMains(); });
   // 10. All cards start face down.
   vb::SkipOnError([&] {
-    for (int i = 0; i <= 24; ++i) Deal2(i).SetPicture(Cartes(54).GetPicture());
-    for (int i = 0; i <= 4; ++i) Deal(i).SetPicture(Cartes(54).GetPicture());
+    for (int i = 0; i <= 24; ++i) Deal2(i).SetPicture(Cartes(kDos).GetPicture());
+    for (int i = 0; i <= 4; ++i) Deal(i).SetPicture(Cartes(kDos).GetPicture());
   });
   // 11.
   AffichageImmédiat = true;
