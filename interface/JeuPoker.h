@@ -17,15 +17,7 @@
 #include "core/vb.h"
 #include "interface/controls.h"
 #include "interface/pictures_art.h"
-
-// The display-mode record: what the last change asked for, by field.
-struct DisplayModeRecord {
-  int width = 0;
-  int height = 0;
-  int bitsPerPixel = 0;
-  int frequency = 0;
-  unsigned fields = 0;
-};
+#include "services/display_mode.h"
 
 class JeuPoker : public QWidget {
  public:
@@ -506,7 +498,7 @@ class JeuPoker : public QWidget {
   Integer HauteurÉcran = 0;
   Integer CouleursÉcran = 0;
   Integer FréquenceÉcran = 0;
-  DisplayModeRecord ModeÉcran;  // the record the platform is given
+  DisplayMode ModeÉcran;  // the record the platform is given
   void VérifieRésolution();
   void RestaureRésolution();
   void ChangeAffichage(Integer& largeur, Integer& hauteur, Integer& couleurs, Integer& fréquence);

@@ -15,12 +15,7 @@
 #include <random>
 #include <vector>
 
-struct DisplayMode {
-  int width = 0;
-  int height = 0;
-  int bitsPerPixel = 32;
-  int frequency = 60;
-};
+#include "services/display_mode.h"
 
 class Platform {
  public:
