@@ -93,7 +93,7 @@ void JeuPoker::ProbPaires2() {
     for (int v = 0; v <= 12; ++v)
       for (int w = v + 1; w <= 12; ++w) total += C(v) * C(w) * (N - P(v) - P(w));
   } else if (H == 1) {
-    // One card: one more of it, a pair and a fifth card, or two pairs of other ranks.
+    // One card: one more of it with a pair and a fifth card, or two pairs of other ranks.
     const int a = simples[0];
     for (int v = 0; v <= 12; ++v)
       if (libre(v)) total += P(a) * C(v) * (N - P(a) - P(v));
