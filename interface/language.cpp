@@ -239,7 +239,8 @@ void JeuPoker::TraduitAlerte(bool versAnglais) {
 
 void JeuPoker::ModifieLangue() {
   const bool anglais = Anglais(Langue);
-  // 1. The language buttons and their lamps.
+  // The flag of the language in force is pressed, refuses the pointer and has its lamp lit;
+  // the other is raised, works and is unlit.
   const int choisi = anglais ? 0 : 1;
   SSLangue(choisi).SetMousePointer(kInterdit);
   SSLangue(choisi).SetBevelWidth(0);
@@ -247,12 +248,12 @@ void JeuPoker::ModifieLangue() {
   SSLangue(1 - choisi).SetBevelWidth(3);
   PSSlangue(choisi).SetVisible(true);
   PSSlangue(1 - choisi).SetVisible(false);
-  // 2. Titles and the PLAY face, drawn once for each language.
+  // The GAINS and MISE titles and the PLAY face, drawn once for each language.
   const int image = anglais ? 2 : 1;
   GainsImage(0).SetPicture(GainsImage(image).GetPicture());
   MisesImage(0).SetPicture(MisesImage(image).GetPicture());
   JouerImage(0).SetPicture(JouerImage(image).GetPicture());
-  // 3. PLAY, and each hold word by what it says now.
+  // PLAY, and each word on the hold panels turned into its twin in the new language.
   Jouer->SetCaption(anglais ? QStringLiteral("PLAY") : QStringLiteral("JOUER"));
   for (int i = 0; i <= 4; ++i) {
     for (const MotJouez& mot : {kMotJouez, kMotGarder, kMotJeter}) {
@@ -262,7 +263,7 @@ void JeuPoker::ModifieLangue() {
       }
     }
   }
-  // 4.
+  // The fixed captions of both games' buttons.
   Quitte1X5->SetCaption(anglais ? QStringLiteral("QUIT") : QStringLiteral("QUITTE"));
   Double1X5->SetCaption(QStringLiteral("DOUBLE"));
   Jouez5->SetCaption(Mot(kMotJouez, anglais));
@@ -271,12 +272,12 @@ void JeuPoker::ModifieLangue() {
   Conseils5->SetCaption(anglais ? QStringLiteral("HELP") : QStringLiteral("CONSEILS"));
   AnnuleConseils5->SetCaption(anglais ? QStringLiteral("CANCEL") : QStringLiteral("ANNULE"));
   Mains5(12).SetCaption(QStringLiteral("GAINS"));
-  // 5-7. The name tables, and the names of the lines on the grid.
+  // The hand and card names, and the names shown on the grid's lines in play.
   RemplitNomsMains();
   for (int ligne = 1; ligne <= Niveau; ++ligne)
     if (!Mains5(ligne - 1).Caption().isEmpty()) Mains5(ligne - 1).SetCaption(NomsMains(MainsLignes(ligne - 1)));
   RemplitNomsValeurs();
-  // 8. The pay table's titles.
+  // The pay table's titles.
   static const char* const kTitresFr[12] = {
       " 1 PAIRE ROI OU AS",   " 2 PAIRES", " BRELAN", " QUINTE", " COULEUR", " FULL", " CARRE", " QUINTE FLUSH",
       " QUINTE FLUSH ROYALE", " POKER",    " RIEN",   " MIEUX"};
@@ -285,7 +286,7 @@ void JeuPoker::ModifieLangue() {
       " STRAIGHT FLUSH",          " ROYAL FLUSH", " 5 OF KIND", " NOTHING",  " BETTER HAND"};
   MainsPayantes->SetCaption(anglais ? QStringLiteral("WINNER HANDS") : QStringLiteral("MAINS PAYANTES"));
   for (int i = 0; i <= 11; ++i) Maintitre(i).SetCaption(QString::fromUtf8(anglais ? kTitresEn[i] : kTitresFr[i]));
-  // 9-11.
+  // The half of the hint table in use, the alert line and the rules page follow.
   LangueVar = anglais ? 100 : 0;
   TraduitAlerte(anglais);
   ConstruitAides(anglais);

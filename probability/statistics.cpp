@@ -46,6 +46,7 @@ void JeuPoker::AfficheStatistiquesRepos() {
   if (NbJokers > 2) vb::RuntimeError(vb::SubscriptOutOfRange);
   UnSur->SetCaption(QString::fromLatin1(kTêtes[NbJokers]));
   for (int i = 0; i <= 11; ++i) {
+    // No five of a kind without a joker: its row stays as it is.
     if (i == 9 && NbJokers == 0) continue;
     PourcDéc(i).SetCaption(QString::number(MainsPossibles(i, NbJokers)));
     Pourcentages(i).SetCaption(TextePourcentages(i, NbJokers));
@@ -56,6 +57,7 @@ void JeuPoker::AfficheStatistiquesRepos() {
 }
 
 void JeuPoker::AfficheFréquence() {
+  // A hand of nothing has no row in the tally.
   if (RangMain == 10) return;
   Fréquences(RangMain) = vb::CLng(static_cast<long long>(Fréquences(RangMain)) + 1);
   Fréquence(RangMain).SetCaption(QString::number(Fréquences(RangMain)));

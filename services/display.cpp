@@ -52,7 +52,7 @@ void JeuPoker::BuildAfficheForm() {
 
 void JeuPoker::VérifieRésolution() {
   const DisplayMode actuel = Sys().CurrentDisplayMode();
-  ModeÉcran = {actuel.width, actuel.height, actuel.bitsPerPixel, actuel.frequency, 0};
+  ModeÉcran = actuel;
   LargeurÉcran = vb::CInt(actuel.width);
   HauteurÉcran = vb::CInt(actuel.height);
   CouleursÉcran = vb::CInt(actuel.bitsPerPixel);
@@ -91,7 +91,7 @@ void JeuPoker::ChangeAffichage(Integer& largeur, Integer& hauteur, Integer& coul
   NoteChangement(largeur, hauteur, couleurs, fréquence, nom);
   ModeÉcran.fields = kChamps;
   // A change for this run only; the platform's answer is not looked at.
-  Sys().ChangeDisplayMode({ModeÉcran.width, ModeÉcran.height, ModeÉcran.bitsPerPixel, ModeÉcran.frequency});
+  Sys().ChangeDisplayMode(ModeÉcran);
 }
 
 void JeuPoker::NoteChangement(Integer largeur, Integer hauteur, Integer couleurs, Integer fréquence,

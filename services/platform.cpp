@@ -85,10 +85,10 @@ QString RealPlatform::SendMciCommand(const QString& command) {
 }
 
 DisplayMode RealPlatform::CurrentDisplayMode() {
-  xrandr::Mode x;
-  if (xrandr::Current(x)) return {x.width, x.height, x.bitsPerPixel, x.frequency};
-  // Without RandR, what Qt knows of the screen.
   DisplayMode m;
+  if (xrandr::Current(m)) return m;
+  // Without RandR, what Qt knows of the screen (32 bits at 60 Hz until it says more).
+  m = {0, 0, 32, 60};
   if (auto* s = QGuiApplication::primaryScreen()) {
     m.width = s->size().width();
     m.height = s->size().height();
@@ -99,15 +99,14 @@ DisplayMode RealPlatform::CurrentDisplayMode() {
 }
 
 std::vector<DisplayMode> RealPlatform::DisplayModes() {
-  std::vector<DisplayMode> out;
-  for (const xrandr::Mode& x : xrandr::Modes()) out.push_back({x.width, x.height, x.bitsPerPixel, x.frequency});
+  std::vector<DisplayMode> out = xrandr::Modes();
   if (out.empty()) out.push_back(CurrentDisplayMode());
   return out;
 }
 
 bool RealPlatform::ChangeDisplayMode(const DisplayMode& mode) {
   // Without RandR (Wayland, a server without the extension) the mode stays as it is.
-  return xrandr::Change({mode.width, mode.height, mode.bitsPerPixel, mode.frequency});
+  return xrandr::Change(mode);
 }
 
 bool RealPlatform::Connected() {

@@ -15,13 +15,18 @@
 #include <random>
 #include <vector>
 
-struct DisplayMode {
-  int width = 0;
-  int height = 0;
-  int bitsPerPixel = 32;
-  int frequency = 60;
-};
+#include "services/display_mode.h"
 
+// The seam itself. Terms: a yield (DoEvents) lets pending clicks, keys, timers and paints run
+// inside the routine that yields, as the game's loops expect; the random draw RandomInt(n)
+// is the game's Int(Rnd x n); Timer is the game's clock, seconds since midnight; a record
+// file (Ini.dat) holds one byte, read and written as record 1; an MCI command is the text
+// of a multimedia command ("open", "play", "status sequence position"...), answered in text.
+// Cache: the real platform makes its MIDI player at the first MCI command, and the network
+// library is loaded when first needed (services/network.h); nothing else is kept.
+// Threads: the form calls Sys() on the GUI thread only; Sleep blocks that thread, and a
+// yield runs the GUI's own events there. The worker that opens the sound device stays
+// behind SendMciCommand (services/music.*).
 class Platform {
  public:
   virtual ~Platform() = default;
