@@ -15,8 +15,8 @@
 #include <vector>
 
 #include "core/vb.h"
+#include "interface/card_faces.h"
 #include "interface/controls.h"
-#include "interface/pictures_art.h"
 
 // The display-mode record: what the last change asked for, by field.
 struct DisplayModeRecord {
