@@ -72,8 +72,8 @@
 #include <vector>
 
 #include "core/vb.h"
+#include "interface/card_faces.h"
 #include "interface/controls.h"
-#include "interface/pictures_art.h"
 #include "services/display_mode.h"
 
 class JeuPoker : public QWidget {
