@@ -90,14 +90,8 @@ void SeededPlatform::Seed(std::uint32_t seed) {
   generator_.seed(seed);
 }
 
-int SeededPlatform::RandomInt(int n) {
-  if (!seeded_) return ScriptedPlatform::RandomInt(n);
-  if (!queuedDraws.empty()) {
-    const int v = queuedDraws.front();
-    queuedDraws.pop_front();
-    if (v >= 0 && v < n) return v;
-    drawErrors.push_back(QStringLiteral("draw %1 is not below %2; drawn at random").arg(v).arg(n));
-  }
+int SeededPlatform::UnqueuedDraw(int n) {
+  if (!seeded_) return ScriptedPlatform::UnqueuedDraw(n);
   if (n <= 0) return 0;
   // The whole part of a uniform number in [0, 1) times n, from 32 random bits.
   return static_cast<int>((static_cast<std::uint64_t>(generator_()) * static_cast<std::uint64_t>(n)) >> 32);

@@ -8,7 +8,7 @@
 #include <functional>
 #include <random>
 
-#include "services/platform.h"
+#include "tools/scripted_platform.h"
 
 class Control;
 class JeuPoker;
@@ -20,7 +20,9 @@ class QWidget;
 class SeededPlatform : public ScriptedPlatform {
  public:
   void Seed(std::uint32_t seed);
-  int RandomInt(int n) override;
+
+ protected:
+  int UnqueuedDraw(int n) override;
 
  private:
   bool seeded_ = false;
