@@ -414,6 +414,10 @@ class JeuPoker : public QWidget {
   // The refusals shared by the bet buttons and their pointers: a double-up, the time between
   // two drawings, a pending win, no credit.
   bool MiseRefusée() const;
+  // The pointer of a bet button: while bets are open and the button's step raises the stake
+  // (`hausse`) to `enJeu`, an arrow turns to no entry when the credit does not cover it, and
+  // back when it does; otherwise the pointer is left as it is.
+  void PointeurMise(Control& bouton, bool hausse, long long enJeu);
 
   // Game switch and options of the frame:
   void Jeu3D_Click();
