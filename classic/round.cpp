@@ -85,34 +85,20 @@ void JeuPoker::Tirage1() {
   // 2.
   if (Doubler->Visible()) Doubler->SetVisible(false);
   // 3. The stake, at the start of a round only (the credit is not checked here).
-  if (NbTirées == 0) {
-    Capital = vb::CLng(static_cast<long long>(Capital) - static_cast<long long>(Niveau) * Mise);
-    AfficheCapital();
-  }
+  if (NbTirées == 0) PrélèveMise();
   // 4.
   InitTirage();
 
   // 5. Every position counts, dealt or kept.
   for (int i = 0; i <= 4; ++i) {
     NbTirées = vb::CByte(NbTirées + 1);
-    bool distribuée = false;
-    int tirée = 0;
-    for (;;) {
+    // A yield before each try, which deals only to a card face down or rejected; a card
+    // already out in this round, rejected ones included, is drawn anew.
+    const int tirée = TireCarteNonSortie(10, [this, i] {
       Sys().DoEvents();
-      const bool àDonner = Deal(i).GetPicture() == Cartes(kDos).GetPicture() || Jouez(i).Caption() == MotJeter(Langue);
-      if (!àDonner) break;
-      Sys().Randomize(Sys().Timer());
-      tirée = Sys().RandomInt(static_cast<int>(TailleJeu));
-      // A card already out in this round, rejected ones included, is drawn anew.
-      bool sortie = false;
-      for (int k = 1; k <= 10; ++k)
-        if (CartesSorties(k) == tirée) sortie = true;
-      if (!sortie) {
-        distribuée = true;
-        break;
-      }
-    }
-    if (!distribuée) continue;
+      return Deal(i).GetPicture() == Cartes(kDos).GetPicture() || Jouez(i).Caption() == MotJeter(Langue);
+    });
+    if (tirée < 0) continue;
     if (!AffichageImmédiat) AnimeCarte(Deal(i), false);
     Deal(i).SetPicture(Cartes(tirée).GetPicture());
     if (!AffichageImmédiat) AnimeCarte(Deal(i), true);

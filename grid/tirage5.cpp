@@ -46,25 +46,14 @@ void JeuPoker::Tirage5() {
   }
   if (Doubler5->Visible()) Doubler5->SetVisible(false);
   if (NbTirées == 0 || NbTirées == 25) Jouez5->SetVisible(false);
-  if (NbTirées == 0) {
-    Capital = vb::CLng(static_cast<long long>(Capital) - static_cast<long long>(Niveau) * Mise);
-    AfficheCapital();
-  }
+  if (NbTirées == 0) PrélèveMise();
 
   // 5. Every position counts; only the face-down ones get a card, never one already out in
   // this deal. Each try reads the clock anew.
   for (int p = 0; p <= 24; ++p) {
     NbTirées = vb::CByte(NbTirées + 1);
     if (!FaceCachée(p)) continue;
-    int tirée = 0;
-    for (;;) {
-      Sys().Randomize(Sys().Timer());
-      tirée = Sys().RandomInt(static_cast<int>(TailleJeu));
-      bool sortie = false;
-      for (int k = 1; k <= 50; ++k)
-        if (CartesSorties(k) == tirée) sortie = true;
-      if (!sortie) break;
-    }
+    const int tirée = TireCarteNonSortie(50);
     MontreCarte2(p, Cartes2(tirée).GetPicture());
     CartesTirage(p) = vb::CByte(tirée);
     CartesSorties(NbTirées) = vb::CInt(tirée);

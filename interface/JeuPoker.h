@@ -212,6 +212,12 @@ class JeuPoker : public QWidget {
   void Initialise();
   void InitPremierTirage();
   void Résultat();
+  // Niveau x Mise taken from Capital, and the credit shown.
+  void PrélèveMise();
+  // Draws a code of the deck, with the clock read anew before each try, until one is not
+  // among CartesSorties(1..sorties). `avantEssai`, when given, runs before each try and ends
+  // the search by returning false; the result is then -1.
+  int TireCarteNonSortie(int sorties, const std::function<bool()>& avantEssai = {});
 
   // ---- Classic game ---------------------------------------------------------------------
   void Jouer_Click();
