@@ -73,42 +73,29 @@ void JeuPoker::AnimeCarte(Control& carte, bool grow) {
 }
 
 void JeuPoker::Tirage1() {
-  // 1. A new round: settle what the last one left and forget the cards gone.
+  // A new round: settle what the last one left, forget the cards gone and give the cards
+  // the card pointer.
   if (NbTirées != 5) {
     InitPremierTirage();
     for (int i = 0; i <= 4; ++i) Deal(i).SetMousePointer(kCarte);
   }
-  // 2.
+  // The double-up offer of the last round goes.
   if (Doubler->Visible()) Doubler->SetVisible(false);
-  // 3. The stake, at the start of a round only (the credit is not checked here).
-  if (NbTirées == 0) {
-    Capital = vb::CLng(static_cast<long long>(Capital) - static_cast<long long>(Niveau) * Mise);
-    AfficheCapital();
-  }
-  // 4.
+  // The stake, at the start of a round only (the credit is not checked here).
+  if (NbTirées == 0) PrélèveMise();
+  // The cards to be replaced are turned down.
   InitTirage();
 
-  // 5. Every position counts, dealt or kept.
+  // Every position counts, dealt or kept. Each try yields first and deals only to a card
+  // that shows its back or is rejected; a card already out in this round, rejected ones
+  // included, is drawn anew.
   for (int i = 0; i <= 4; ++i) {
     NbTirées = vb::CByte(NbTirées + 1);
-    bool distribuée = false;
-    int tirée = 0;
-    for (;;) {
+    const int tirée = TireCarteNonSortie(10, [this, i] {
       Sys().DoEvents();
-      const bool àDonner = Deal(i).GetPicture() == Cartes(kDos).GetPicture() || Jouez(i).Caption() == MotCarteJetée();
-      if (!àDonner) break;
-      Sys().Randomize(Sys().Timer());
-      tirée = Sys().RandomInt(static_cast<int>(TailleJeu));
-      // A card already out in this round, rejected ones included, is drawn anew.
-      bool sortie = false;
-      for (int k = 1; k <= 10; ++k)
-        if (CartesSorties(k) == tirée) sortie = true;
-      if (!sortie) {
-        distribuée = true;
-        break;
-      }
-    }
-    if (!distribuée) continue;
+      return Deal(i).GetPicture() == Cartes(kDos).GetPicture() || Jouez(i).Caption() == MotCarteJetée();
+    });
+    if (tirée < 0) continue;
     if (!AffichageImmédiat) AnimeCarte(Deal(i), false);
     Deal(i).SetPicture(Cartes(tirée).GetPicture());
     if (!AffichageImmédiat) AnimeCarte(Deal(i), true);
@@ -116,7 +103,8 @@ void JeuPoker::Tirage1() {
     CartesSorties(NbTirées) = vb::CInt(tirée);
   }
 
-  // 6-11. The hand, the advice, the panel.
+  // The hand is read, counted at the end of a round, advised on and priced in the odds
+  // panel; between the drawings the controls that no longer work say so by their pointer.
   for (int i = 0; i <= 4; ++i) MainTriée(i) = CartesTirage(i);
   Résultat();
   if (NbTirées == 10) AfficheFréquence();
@@ -124,7 +112,8 @@ void JeuPoker::Tirage1() {
   Probabilités();
   if (NbTirées == 5) Pointeur12();
 
-  // 12. The end of a round.
+  // The end of a round: a win waits to be collected; without one, a new round is offered,
+  // at a bet of 1 when the credit no longer covers the bet, or the credit is gone.
   if (NbTirées == 10) {
     if (RangMain != 10) {
       SSAlertes->SetCaption(TexteAlerte(Alerte::Encaisser));
@@ -148,7 +137,7 @@ void JeuPoker::Tirage1() {
     }
   }
 
-  // 13. A paying hand shows its value at either drawing; it is owed only after the second.
+  // A paying hand shows its value at either drawing; it is owed only after the second.
   if (RangMain != 10) {
     EffaceLigneGagnante();
     GainMain = vb::CLng(static_cast<long long>(TableGains(RangMain)) * Mise);
@@ -162,7 +151,7 @@ void JeuPoker::Tirage1() {
     }
   }
 
-  // 14. The round is over: the cards can no longer be acted on; a win offers the double-up.
+  // The round is over: the cards can no longer be acted on; a win offers the double-up.
   if (NbTirées == 10) {
     for (int i = 0; i <= 4; ++i) Deal(i).SetMousePointer(kInterdit);
     if (RangMain != 10) {

@@ -1,9 +1,10 @@
 // The table: a new game (Initialise), the reset at the start of each classic round
-// (InitPremierTirage) and the classic pay tables.
+// (InitPremierTirage), the classic pay tables, and the stake and the card draw of both games.
 #include "core/colours.h"
 #include "core/pay_tables.h"
 #include "core/table_facts.h"
 #include "interface/JeuPoker.h"
+#include "services/platform.h"
 
 // The classic pay table for the number of jokers in force: one multiplier per hand class
 // 0..9 (pair of kings or aces .. five of a kind). Nothing (class 10) has no entry.
@@ -80,4 +81,21 @@ void JeuPoker::InitPremierTirage() {
   Gains->SetCaption(QString());
   AfficheGain();
   for (int i = 1; i <= 10; ++i) CartesSorties(i) = -1;
+}
+
+void JeuPoker::PrélèveMise() {
+  Capital = vb::CLng(static_cast<long long>(Capital) - static_cast<long long>(Niveau) * Mise);
+  AfficheCapital();
+}
+
+int JeuPoker::TireCarteNonSortie(int sorties, const std::function<bool()>& avantEssai) {
+  for (;;) {
+    if (avantEssai && !avantEssai()) return -1;
+    Sys().Randomize(Sys().Timer());
+    const int tirée = Sys().RandomInt(static_cast<int>(TailleJeu));
+    bool sortie = false;
+    for (int k = 1; k <= sorties; ++k)
+      if (CartesSorties(k) == tirée) sortie = true;
+    if (!sortie) return tirée;
+  }
 }

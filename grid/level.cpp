@@ -68,20 +68,10 @@ void JeuPoker::Moins5_Click() {
 // elsewhere it is left as it is.
 void JeuPoker::Plus5_MouseMove(int, int, int, int) {
   MontreAide(22, false, false);
-  if (MiseRefusée() || Niveau >= 12) return;
-  const bool couvert = (static_cast<long long>(Niveau) + 1) * Mise <= Capital;
-  if (Plus5->MousePointer() == kFlèche && !couvert)
-    Plus5->SetMousePointer(kInterdit);
-  else if (Plus5->MousePointer() == kInterdit && couvert)
-    Plus5->SetMousePointer(kFlèche);
+  PointeurMise(*Plus5, Niveau < 12, (static_cast<long long>(Niveau) + 1) * Mise);
 }
 
 void JeuPoker::Moins5_MouseMove(int, int, int, int) {
   MontreAide(21, false, false);
-  if (MiseRefusée() || Niveau != 1) return;
-  const bool couvert = static_cast<long long>(Mise) * 12 <= Capital;
-  if (Moins5->MousePointer() == kFlèche && !couvert)
-    Moins5->SetMousePointer(kInterdit);
-  else if (Moins5->MousePointer() == kInterdit && couvert)
-    Moins5->SetMousePointer(kFlèche);
+  PointeurMise(*Moins5, Niveau == 1, static_cast<long long>(Mise) * 12);
 }

@@ -35,39 +35,30 @@ void JeuPoker::MontreCarte2(int p, Picture image) {
 }
 
 void JeuPoker::Tirage5() {
-  // 1-4. A new deal: close the last one, lay the table and take the stake (checked by the
-  // callers and by InitPremierTirage5, not here).
+  // A new deal: close the last one, turn the grid down and give the cards the card pointer.
   if (NbTirées != 25) {
     InitPremierTirage5();
     for (int p = 0; p <= 24; ++p) Deal2(p).SetMousePointer(kCarte);
   }
+  // The double-up offer of the last deal goes, and the PLAY invitation.
   if (Doubler5->Visible()) Doubler5->SetVisible(false);
   if (NbTirées == 0 || NbTirées == 25) Jouez5->SetVisible(false);
-  if (NbTirées == 0) {
-    Capital = vb::CLng(static_cast<long long>(Capital) - static_cast<long long>(Niveau) * Mise);
-    AfficheCapital();
-  }
+  // The stake, at the start of a deal only (the credit is checked by the callers and by
+  // InitPremierTirage5, not here).
+  if (NbTirées == 0) PrélèveMise();
 
-  // 5. Every position counts; only the face-down ones get a card, never one already out in
+  // Every position counts; only the face-down ones get a card, never one already out in
   // this deal. Each try reads the clock anew.
   for (int p = 0; p <= 24; ++p) {
     NbTirées = vb::CByte(NbTirées + 1);
     if (!FaceCachée(p)) continue;
-    int tirée = 0;
-    for (;;) {
-      Sys().Randomize(Sys().Timer());
-      tirée = Sys().RandomInt(static_cast<int>(TailleJeu));
-      bool sortie = false;
-      for (int k = 1; k <= 50; ++k)
-        if (CartesSorties(k) == tirée) sortie = true;
-      if (!sortie) break;
-    }
+    const int tirée = TireCarteNonSortie(50);
     MontreCarte2(p, Cartes2(tirée).GetPicture());
     CartesTirage(p) = vb::CByte(tirée);
     CartesSorties(NbTirées) = vb::CInt(tirée);
   }
 
-  // 6. Between the drawings: the advice panel, and the advice gathered anew.
+  // Between the drawings: the advice panel, and the advice gathered anew.
   if (NbTirées == 25) {
     Pointeur12();
     SSConseils5->SetVisible(true);
@@ -144,17 +135,17 @@ void JeuPoker::ConclutTirage5() {
 }
 
 void JeuPoker::InitPremierTirage5() {
-  // 1. Winnings are collected here, on PLAY as well as on QUITTE.
+  // Winnings are collected here, on PLAY as well as on QUITTE.
   if (GainTirage != 0) {
     Capital = vb::CLng(static_cast<long long>(Capital) + GainTirage);
     AfficheCapital();
     GainTirage = 0;
   }
-  // 2. A bet the credit no longer covers falls back to 1 after a finished deal.
+  // A bet the credit no longer covers falls back to 1 after a finished deal.
   if (NbTirées == 50 && static_cast<long long>(Niveau) * Mise > Capital) {
     RemetNiveauÀUn();
   }
-  // 3-5.
+  // A fresh deal: no card drawn or out yet, the win and the line captions blank.
   NbTirées = 0;
   Gains->SetCaption(QString());
   AfficheGain();
@@ -165,7 +156,7 @@ void JeuPoker::InitPremierTirage5() {
   }
   Gains5(12).SetCaption(QString());
   for (int k = 1; k <= 50; ++k) CartesSorties(k) = -1;
-  // 6. The grid goes face down, yielding once a card even without the animation.
+  // The grid goes face down, yielding once a card even without the animation.
   for (int p = 0; p <= 24; ++p) {
     if (FaceCachée(p)) continue;
     if (!AffichageImmédiat) AnimeCarte2(p, false);

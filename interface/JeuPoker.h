@@ -283,6 +283,12 @@ class JeuPoker : public QWidget {
   void RemplitTableGains();
   // Puts the highlighted row of the pay table back to white on black.
   void EffaceLigneGagnante();
+  // Niveau x Mise taken from Capital, and the credit shown.
+  void PrélèveMise();
+  // Draws a code of the deck, with the clock read anew before each try, until one is not
+  // among CartesSorties(1..sorties). `avantEssai`, when given, runs before each try and ends
+  // the search by returning false; the result is then -1.
+  int TireCarteNonSortie(int sorties, const std::function<bool()>& avantEssai = {});
 
   // ==== Classic game: JEU 1 ==================================================================
   // classic/round.cpp: the draw cycle (Jouer_*, Tirage_*, Tirage1, InitTirage);
@@ -498,6 +504,10 @@ class JeuPoker : public QWidget {
   bool MiseRefusée() const;
   // After a change of Mise: the bet caption, its digits and the pay table's amounts.
   void MiseChangée();
+  // The pointer of a bet button: while bets are open and the button's step raises the stake
+  // (`hausse`) to `enJeu`, an arrow turns to no entry when the credit does not cover it, and
+  // back when it does; otherwise the pointer is left as it is.
+  void PointeurMise(Control& bouton, bool hausse, long long enJeu);
 
   // Game switch and options of the frame (interface/options.cpp):
   void Jeu3D_Click();

@@ -158,24 +158,24 @@ void JeuPoker::Moins_Click() {
   MiseChangée();
 }
 
+void JeuPoker::PointeurMise(Control& bouton, bool hausse, long long enJeu) {
+  if (MiseRefusée() || !hausse) return;
+  const bool couvert = enJeu <= Capital;
+  if (bouton.MousePointer() == kFlèche && !couvert)
+    bouton.SetMousePointer(kInterdit);
+  else if (bouton.MousePointer() == kInterdit && couvert)
+    bouton.SetMousePointer(kFlèche);
+}
+
+// The hint, then the pointer; the steps that raise the bet are one up and from 1 to 40.
 void JeuPoker::Plus_MouseMove(int, int, int, int) {
   MontreAide(20, false, false);
-  if (MiseRefusée() || Mise >= 40) return;
-  const bool couvert = (static_cast<long long>(Mise) + 1) * Niveau <= Capital;
-  if (Plus->MousePointer() == kFlèche && !couvert)
-    Plus->SetMousePointer(kInterdit);
-  else if (Plus->MousePointer() == kInterdit && couvert)
-    Plus->SetMousePointer(kFlèche);
+  PointeurMise(*Plus, Mise < 40, (static_cast<long long>(Mise) + 1) * Niveau);
 }
 
 void JeuPoker::Moins_MouseMove(int, int, int, int) {
   MontreAide(19, false, false);
-  if (MiseRefusée() || Mise != 1) return;
-  const bool couvert = static_cast<long long>(Niveau) * 40 <= Capital;
-  if (Moins->MousePointer() == kFlèche && !couvert)
-    Moins->SetMousePointer(kInterdit);
-  else if (Moins->MousePointer() == kInterdit && couvert)
-    Moins->SetMousePointer(kFlèche);
+  PointeurMise(*Moins, Mise == 1, static_cast<long long>(Niveau) * 40);
 }
 
 void JeuPoker::Pointeur10() {

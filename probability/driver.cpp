@@ -7,6 +7,24 @@
 #include "interface/JeuPoker.h"
 #include "interface/bind.h"
 
+namespace {
+// Sorts clés(0..n-1) in ascending order by exchanges of neighbours, so equal values keep their
+// order; `suite`, when given, has its entries exchanged along with the keys.
+void TriÀBulles(vb::Array<Byte, 0, 4>& clés, int n, vb::Array<Byte, 0, 4>* suite = nullptr) {
+  bool échange = true;
+  while (échange) {
+    échange = false;
+    for (int i = 0; i + 1 < n; ++i) {
+      if (clés(i + 1) < clés(i)) {
+        std::swap(clés(i), clés(i + 1));
+        if (suite) std::swap((*suite)(i), (*suite)(i + 1));
+        échange = true;
+      }
+    }
+  }
+}
+}  // namespace
+
 void JeuPoker::Probabilités() {
   if (NbTirées == 10) {
     EffaceProbabilités();
@@ -81,32 +99,11 @@ void JeuPoker::CompteProbabilités() {
   // Ranks in place of natural codes, sorted; jokers keep their codes and so stand last.
   for (int i = 0; i < NbRejetées; ++i)
     if (RejetéesCodes(i) < 52) RejetéesCodes(i) = RejetéesCodes(i) % 13;
-  if (NbRejetées >= 2) {
-    bool échange = true;
-    while (échange) {
-      échange = false;
-      for (int i = 0; i + 1 < NbRejetées; ++i) {
-        if (RejetéesCodes(i + 1) < RejetéesCodes(i)) {
-          std::swap(RejetéesCodes(i), RejetéesCodes(i + 1));
-          échange = true;
-        }
-      }
-    }
-  }
+  if (NbRejetées >= 2) TriÀBulles(RejetéesCodes, NbRejetées);
   if (NbGardées >= 1 && NbGardées <= 4) {
     for (int i = 0; i < NbGardées; ++i)
       if (Gardées(i) < 52) Gardées(i) = Gardées(i) % 13;
-    bool échange = true;
-    while (échange) {
-      échange = false;
-      for (int i = 0; i + 1 < NbGardées; ++i) {
-        if (Gardées(i + 1) < Gardées(i)) {
-          std::swap(Gardées(i), Gardées(i + 1));
-          std::swap(CouleursGardées(i), CouleursGardées(i + 1));
-          échange = true;
-        }
-      }
-    }
+    TriÀBulles(Gardées, NbGardées, &CouleursGardées);
   }
 
   ProbCouleur();
