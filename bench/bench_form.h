@@ -3,7 +3,7 @@
 #pragma once
 
 #include "interface/JeuPoker.h"
-#include "services/platform.h"
+#include "tools/scripted_platform.h"
 
 JeuPoker& BenchForm();
 ScriptedPlatform& BenchPlatform();

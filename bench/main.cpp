@@ -4,7 +4,7 @@
 #include <QApplication>
 
 #include "bench/bench_form.h"
-#include "interface/pictures_art.h"
+#include "interface/card_faces.h"
 
 void ReportFirstBuildPictures();
 

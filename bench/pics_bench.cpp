@@ -8,7 +8,10 @@
 #include <cstdio>
 
 #include "interface/JeuPoker.h"
+#include "interface/card_faces.h"
+#include "interface/deck_svg.h"
 #include "interface/pictures_art.h"
+#include "services/measurement.h"
 
 namespace {
 
@@ -93,8 +96,8 @@ void BM_BuildPictures(benchmark::State& state) {
   double cpu = 0;
   for (auto _ : state) {
     JeuPoker form(dir.path());
-    state.SetIterationTime(pics::LastBuildTime().wall);
-    cpu += pics::LastBuildTime().cpu;
+    state.SetIterationTime(LastPicturesBuildTime().wall);
+    cpu += LastPicturesBuildTime().cpu;
   }
   // The processor time of BuildPictures alone, which a busy machine does not inflate.
   state.counters["cpu_ms"] = benchmark::Counter(cpu * 1000, benchmark::Counter::kAvgIterations);
@@ -108,5 +111,5 @@ void ReportFirstBuildPictures() {
   QTemporaryDir dir;
   JeuPoker form(dir.path());
   std::printf("first BuildPictures of the process: %.1f ms (%.1f ms of this thread's processor time)\n",
-              pics::LastBuildTime().wall * 1000, pics::LastBuildTime().cpu * 1000);
+              LastPicturesBuildTime().wall * 1000, LastPicturesBuildTime().cpu * 1000);
 }

@@ -1,18 +1,10 @@
 // Automatic mode: drawing after drawing in the game in force, without the player. It is one
 // long click handler; the stop, the timers and every other handler run in its yields. The
 // mode's only state is AutoPlay's BevelWidth: 0 running, 3 idle.
+#include "core/colours.h"
+#include "core/table_facts.h"
 #include "interface/JeuPoker.h"
 #include "services/platform.h"
-
-namespace {
-constexpr int kFlèche = 10;
-constexpr int kInterdit = 12;
-constexpr int kCarte = 99;
-constexpr Long kRougeSombre = 192;
-constexpr Long kGrisMarche = 0x656565;
-// A stop writes this colour, not the design value 0x7A7A7A of the idle button.
-constexpr Long kGrisArrêt = 501671;
-}  // namespace
 
 bool JeuPoker::AutoEnCours() const { return AutoPlay->BevelWidth() == 0; }
 
@@ -35,10 +27,10 @@ void JeuPoker::AutoPlay_Click() {
 
   AutoPlayTimer->SetEnabled(true);
   AutoPlay->SetBevelWidth(0);
-  AutoPlay->SetBackColor(kGrisMarche);
+  AutoPlay->SetBackColor(couleur::kGrisMarche);
   AutoPlay->SetMousePointer(kInterdit);
   AutoPlayStop->SetBevelWidth(3);
-  AutoPlayStop->SetForeColor(kRougeSombre);
+  AutoPlayStop->SetForeColor(couleur::kRougeSombre);
   AutoPlayStop->SetMousePointer(kFlèche);
   PointeursAuto(true);
   for (Control* c : {ParesseNon, ParesseOui, &SSVitesse(0), &SSVitesse(1)}) c->SetMousePointer(kInterdit);
@@ -65,7 +57,7 @@ void JeuPoker::AutoPlay_Click() {
     if (SSAireJeu5->Visible() && NbTirées == 25) {
       for (int p = 0; p <= 24; ++p) {
         if (LignesJouées(p) || FaceCachée(p)) continue;
-        Deal2(p).SetPicture(Cartes(54).GetPicture());
+        Deal2(p).SetPicture(Cartes(kDos).GetPicture());
         Sys().DoEvents();
       }
     }
@@ -87,11 +79,11 @@ void JeuPoker::AutoPlayStop_Click() {
   }
   if (!AutoEnCours()) return;
   AutoPlay->SetBevelWidth(3);
-  AutoPlay->SetForeColor(kRougeSombre);
-  AutoPlay->SetBackColor(kGrisArrêt);
+  AutoPlay->SetForeColor(couleur::kRougeSombre);
+  AutoPlay->SetBackColor(couleur::kGrisArrêt);
   AutoPlay->SetMousePointer(kFlèche);
   AutoPlayStop->SetBevelWidth(0);
-  AutoPlayStop->SetForeColor(0);
+  AutoPlayStop->SetForeColor(couleur::kNoir);
   AutoPlayStop->SetMousePointer(kInterdit);
   PointeursAuto(false);
   if (JeuSimple->BevelWidth() == 1) ParesseNon->SetMousePointer(kFlèche);
@@ -99,4 +91,6 @@ void JeuPoker::AutoPlayStop_Click() {
   AutoPlayTimer->SetEnabled(false);
 }
 
-void JeuPoker::AutoPlayTimer_Timer() { AutoPlay->SetForeColor(AutoPlay->ForeColor() == 192 ? 255 : 192); }
+void JeuPoker::AutoPlayTimer_Timer() {
+  AutoPlay->SetForeColor(AutoPlay->ForeColor() == couleur::kRougeSombre ? couleur::kRouge : couleur::kRougeSombre);
+}

@@ -2,16 +2,18 @@
 // card at position 0 (never an ace, so the player can always still win); the player turns
 // one of the four masked cards. The win stays in GainMain throughout and reaches Capital only
 // through InitPremierTirage.
+#include "core/colours.h"
+#include "core/table_facts.h"
 #include "interface/JeuPoker.h"
 #include "services/platform.h"
 
 void JeuPoker::Double1X5_Click() {
   Tirage->SetFocus();
   if (AutoPlay->BevelWidth() == 0) return;
-  AutoPlay->SetMousePointer(12);
-  AutoPlayStop->SetMousePointer(12);
-  Jouer->SetMousePointer(12);
-  for (int i = 0; i <= 4; ++i) Deal(i).SetMousePointer(99);
+  AutoPlay->SetMousePointer(kInterdit);
+  AutoPlayStop->SetMousePointer(kInterdit);
+  Jouer->SetMousePointer(kInterdit);
+  for (int i = 0; i <= 4; ++i) Deal(i).SetMousePointer(kCarte);
   DoubleEnCours = true;
   // The house card: one clock reading, rank two to king, any suit, drawn apart from the deck.
   Sys().Randomize(Sys().Timer());
@@ -20,16 +22,16 @@ void JeuPoker::Double1X5_Click() {
   const Byte maison = vb::CByte(DoubleCarte2 * 13 + DoubleCarte1);
   Deal(0).SetPicture(Cartes(maison).GetPicture());
   CartesTirage(0) = maison;
-  for (int i = 1; i <= 4; ++i) Deal(i).SetPicture(Cartes(54).GetPicture());
+  for (int i = 1; i <= 4; ++i) Deal(i).SetPicture(Cartes(kDos).GetPicture());
   Doubler->SetVisible(false);
   SSAlertes->SetCaption(TexteAlerte(Alerte::ChoixCarte));
 }
 
 void JeuPoker::ChoixCarteQouD() {
-  AutoPlay->SetMousePointer(10);
-  Jouer->SetMousePointer(10);
-  AutoPlayStop->SetMousePointer(12);
-  for (int i = 0; i <= 4; ++i) Deal(i).SetMousePointer(12);
+  AutoPlay->SetMousePointer(kFlèche);
+  Jouer->SetMousePointer(kFlèche);
+  AutoPlayStop->SetMousePointer(kInterdit);
+  for (int i = 0; i <= 4; ++i) Deal(i).SetMousePointer(kInterdit);
   DoubleEnCours = false;
   if (!SSAlertes->Caption().isEmpty()) SSAlertes->SetCaption(QString());
 
@@ -65,11 +67,11 @@ void JeuPoker::ChoixCarteQouD() {
     Doubler->SetVisible(true);
   } else {
     for (IndiceDouble = 0; IndiceDouble <= 9; ++IndiceDouble) {
-      if (MainLabel(IndiceDouble).ForeColor() == 255) {
-        Maintitre(IndiceDouble).SetForeColor(0xFFFFFF);
-        MainLabel(IndiceDouble).SetForeColor(0xFFFFFF);
-        Maintitre(IndiceDouble).SetBackColor(0);
-        MainLabel(IndiceDouble).SetBackColor(0);
+      if (MainLabel(IndiceDouble).ForeColor() == couleur::kRouge) {
+        Maintitre(IndiceDouble).SetForeColor(couleur::kBlanc);
+        MainLabel(IndiceDouble).SetForeColor(couleur::kBlanc);
+        Maintitre(IndiceDouble).SetBackColor(couleur::kNoir);
+        MainLabel(IndiceDouble).SetBackColor(couleur::kNoir);
       }
     }
     const Long mise = vb::CLng(static_cast<long long>(Niveau) * Mise);
@@ -94,12 +96,12 @@ void JeuPoker::Quitte1X5_Click() {
   Tirage->SetFocus();
   Pointeur10();
   if (AutoPlay->BevelWidth() == 0) return;
-  for (int i = 0; i <= 4; ++i) Deal(i).SetMousePointer(12);
+  for (int i = 0; i <= 4; ++i) Deal(i).SetMousePointer(kInterdit);
   Doubler->SetVisible(false);
   // The statistics panel goes back to its figures at rest.
   AfficheStatistiquesRepos();
   for (int i = 0; i <= 4; ++i) Jouez(i).SetVisible(true);
   InitPremierTirage();
-  for (int i = 0; i <= 4; ++i) Deal(i).SetPicture(Cartes(54).GetPicture());
+  for (int i = 0; i <= 4; ++i) Deal(i).SetPicture(Cartes(kDos).GetPicture());
   SSAlertes->SetCaption(TexteAlerte(Alerte::NouveauTirage));
 }

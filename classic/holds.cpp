@@ -1,31 +1,28 @@
 // Holding and rejecting cards between the two drawings, by click or by the numeric keypad.
 // The hold state is the caption of Jouez(i); Tirage1 and the probability panel read it.
+#include "core/colours.h"
+#include "core/table_facts.h"
 #include "interface/JeuPoker.h"
 
 namespace {
-constexpr Long kHeldColour = 0xC0C000;
-constexpr Long kRejectedColour = 0x607000;
 constexpr int kKeypad1 = 97;
 constexpr int kKeypad5 = 101;
 constexpr int kF2 = 113;
-
-// Langue 0 or 2 is English, anything else French.
-bool English(Byte langue) { return langue == 0 || langue == 2; }
 }  // namespace
 
-QString JeuPoker::MotCarteGardée() const { return English(Langue) ? QStringLiteral("HOLD") : QStringLiteral("GARDER"); }
+QString JeuPoker::MotCarteGardée() const { return Mot(kMotGarder, Anglais(Langue)); }
 
-QString JeuPoker::MotCarteJetée() const { return English(Langue) ? QStringLiteral("REJECT") : QStringLiteral("JETER"); }
+QString JeuPoker::MotCarteJetée() const { return Mot(kMotJeter, Anglais(Langue)); }
 
 void JeuPoker::InverseJouez(int index) {
   Control& jouez = Jouez(index);
   if (jouez.Caption() == MotCarteGardée()) {
     jouez.SetCaption(MotCarteJetée());
-    jouez.SetBackColor(kRejectedColour);
+    jouez.SetBackColor(couleur::kJetée);
   } else {
     // "JOUEZ"/"PLAY", or a word of the other language, counts as not held.
     jouez.SetCaption(MotCarteGardée());
-    jouez.SetBackColor(kHeldColour);
+    jouez.SetBackColor(couleur::kGardée);
   }
   AvertitCoach(MomentCoach::Suivi);
 }

@@ -7,14 +7,10 @@
 // protection.
 #include <cmath>
 
+#include "core/colours.h"
+#include "core/table_facts.h"
 #include "interface/JeuPoker.h"
 #include "services/platform.h"
-
-namespace {
-bool Anglais(Byte langue) { return langue == 0 || langue == 2; }
-QString MotJeter(Byte langue) { return Anglais(langue) ? QStringLiteral("REJECT") : QStringLiteral("JETER"); }
-constexpr int kDos = 54;  // Cartes(54), the card back
-}  // namespace
 
 void JeuPoker::RegisterClassicVariables() {
   // The round has no variables of its own beyond the table state bound with the core.
@@ -78,42 +74,29 @@ void JeuPoker::AnimeCarte(Control& carte, bool grow) {
 
 void JeuPoker::Tirage1() {
   AvertitCoach(MomentCoach::Décision);
-  // 1. A new round: settle what the last one left and forget the cards gone.
+  // A new round: settle what the last one left, forget the cards gone and give the cards
+  // the card pointer.
   if (NbTirées != 5) {
     InitPremierTirage();
-    for (int i = 0; i <= 4; ++i) Deal(i).SetMousePointer(99);
+    for (int i = 0; i <= 4; ++i) Deal(i).SetMousePointer(kCarte);
   }
-  // 2.
+  // The double-up offer of the last round goes.
   if (Doubler->Visible()) Doubler->SetVisible(false);
-  // 3. The stake, at the start of a round only (the credit is not checked here).
-  if (NbTirées == 0) {
-    Capital = vb::CLng(static_cast<long long>(Capital) - static_cast<long long>(Niveau) * Mise);
-    AfficheCapital();
-  }
-  // 4.
+  // The stake, at the start of a round only (the credit is not checked here).
+  if (NbTirées == 0) PrélèveMise();
+  // The cards to be replaced are turned down.
   InitTirage();
 
-  // 5. Every position counts, dealt or kept.
+  // Every position counts, dealt or kept. Each try yields first and deals only to a card
+  // that shows its back or is rejected; a card already out in this round, rejected ones
+  // included, is drawn anew.
   for (int i = 0; i <= 4; ++i) {
     NbTirées = vb::CByte(NbTirées + 1);
-    bool distribuée = false;
-    int tirée = 0;
-    for (;;) {
+    const int tirée = TireCarteNonSortie(10, [this, i] {
       Sys().DoEvents();
-      const bool àDonner = Deal(i).GetPicture() == Cartes(kDos).GetPicture() || Jouez(i).Caption() == MotJeter(Langue);
-      if (!àDonner) break;
-      Sys().Randomize(Sys().Timer());
-      tirée = Sys().RandomInt(static_cast<int>(TailleJeu));
-      // A card already out in this round, rejected ones included, is drawn anew.
-      bool sortie = false;
-      for (int k = 1; k <= 10; ++k)
-        if (CartesSorties(k) == tirée) sortie = true;
-      if (!sortie) {
-        distribuée = true;
-        break;
-      }
-    }
-    if (!distribuée) continue;
+      return Deal(i).GetPicture() == Cartes(kDos).GetPicture() || Jouez(i).Caption() == MotCarteJetée();
+    });
+    if (tirée < 0) continue;
     if (!AffichageImmédiat) AnimeCarte(Deal(i), false);
     Deal(i).SetPicture(Cartes(tirée).GetPicture());
     if (!AffichageImmédiat) AnimeCarte(Deal(i), true);
@@ -121,7 +104,8 @@ void JeuPoker::Tirage1() {
     CartesSorties(NbTirées) = vb::CInt(tirée);
   }
 
-  // 6-11. The hand, the advice, the panel.
+  // The hand is read, counted at the end of a round, advised on and priced in the odds
+  // panel; between the drawings the controls that no longer work say so by their pointer.
   for (int i = 0; i <= 4; ++i) MainTriée(i) = CartesTirage(i);
   Résultat();
   if (NbTirées == 10) AfficheFréquence();
@@ -129,7 +113,8 @@ void JeuPoker::Tirage1() {
   Probabilités();
   if (NbTirées == 5) Pointeur12();
 
-  // 12. The end of a round.
+  // The end of a round: a win waits to be collected; without one, a new round is offered,
+  // at a bet of 1 when the credit no longer covers the bet, or the credit is gone.
   if (NbTirées == 10) {
     if (RangMain != 10) {
       SSAlertes->SetCaption(TexteAlerte(Alerte::Encaisser));
@@ -153,23 +138,23 @@ void JeuPoker::Tirage1() {
     }
   }
 
-  // 13. A paying hand shows its value at either drawing; it is owed only after the second.
+  // A paying hand shows its value at either drawing; it is owed only after the second.
   if (RangMain != 10) {
     EffaceLigneGagnante();
     GainMain = vb::CLng(static_cast<long long>(TableGains(RangMain)) * Mise);
     Gains->SetCaption(QString::number(GainMain));
     AfficheGain();
     if (SSGains->Top() == 630) {
-      Maintitre(RangMain).SetForeColor(255);
-      MainLabel(RangMain).SetForeColor(255);
-      Maintitre(RangMain).SetBackColor(49344);
-      MainLabel(RangMain).SetBackColor(49344);
+      Maintitre(RangMain).SetForeColor(couleur::kRouge);
+      MainLabel(RangMain).SetForeColor(couleur::kRouge);
+      Maintitre(RangMain).SetBackColor(couleur::kOcre);
+      MainLabel(RangMain).SetBackColor(couleur::kOcre);
     }
   }
 
-  // 14. The round is over: the cards can no longer be acted on; a win offers the double-up.
+  // The round is over: the cards can no longer be acted on; a win offers the double-up.
   if (NbTirées == 10) {
-    for (int i = 0; i <= 4; ++i) Deal(i).SetMousePointer(12);
+    for (int i = 0; i <= 4; ++i) Deal(i).SetMousePointer(kInterdit);
     if (RangMain != 10) {
       for (int i = 0; i <= 4; ++i) Jouez(i).SetVisible(false);
       Doubler->SetVisible(true);
@@ -181,7 +166,7 @@ void JeuPoker::Tirage1() {
 // Turns down the cards to be replaced: the rejected ones, and at the start of a round every
 // card still face up.
 void JeuPoker::InitTirage() {
-  const QString jeter = MotJeter(Langue);
+  const QString jeter = MotCarteJetée();
   bool retournée = false;
   for (int i = 0; i <= 4; ++i) {
     if (Jouez(i).Caption() == jeter || (NbTirées == 0 && Deal(i).GetPicture() != Cartes(kDos).GetPicture())) {

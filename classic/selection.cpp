@@ -2,12 +2,9 @@
 // the rule table of AppliqueRèglesSélection over what Résultat left. On the 2D grid the same
 // routine only fills CartesGardées with the made hands.
 #include "classic/selection_rules.h"
+#include "core/colours.h"
+#include "core/table_facts.h"
 #include "interface/JeuPoker.h"
-
-namespace {
-constexpr Long kHeldColour = 0xC0C000;
-constexpr Long kRejectedColour = 0x607000;
-}  // namespace
 
 void JeuPoker::MarqueCarte(int i) { CartesGardées(PositionsMain(i)) = true; }
 
@@ -19,7 +16,7 @@ void JeuPoker::GardeCartes() {
   // With the option off all five cards start as rejected.
   if (ParesseNon->BevelWidth() == 0) {
     for (int i = 0; i <= 4; ++i) {
-      Jouez(i).SetBackColor(kRejectedColour);
+      Jouez(i).SetBackColor(couleur::kJetée);
       Jouez(i).SetCaption(MotCarteJetée());
     }
   }
@@ -52,10 +49,10 @@ void JeuPoker::GardeCartes() {
       for (int i = 0; i <= 4; ++i) {
         if (CartesGardées(i)) {
           Jouez(i).SetCaption(MotCarteGardée());
-          Jouez(i).SetBackColor(kHeldColour);
+          Jouez(i).SetBackColor(couleur::kGardée);
         } else {
           Jouez(i).SetCaption(MotCarteJetée());
-          Jouez(i).SetBackColor(kRejectedColour);
+          Jouez(i).SetBackColor(couleur::kJetée);
         }
       }
     }
@@ -77,9 +74,9 @@ void SelectionneParesse(JeuPoker& f, Control& choisi, Control& autre, Control& l
     return;
   }
   if (choisi.BevelWidth() == 0 || f.Jeu3D->BevelWidth() == 1) return;
-  choisi.SetMousePointer(12);
+  choisi.SetMousePointer(kInterdit);
   choisi.SetBevelWidth(0);
-  autre.SetMousePointer(10);
+  autre.SetMousePointer(kFlèche);
   autre.SetBevelWidth(3);
   lampeChoisie.SetVisible(true);
   autreLampe.SetVisible(false);

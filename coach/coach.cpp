@@ -27,6 +27,16 @@ class Analyst {
           }).share();
   }
 
+  void Wait(int jokers) {
+    Prepare(jokers);
+    std::shared_future<std::shared_ptr<const odds::Tables>> f;
+    {
+      const std::lock_guard lock(mutex_);
+      f = tables_[static_cast<std::size_t>(jokers)];
+    }
+    f.wait();
+  }
+
   std::vector<odds::Hold> Analyse(const odds::Hand& hand, int jokers) {
     Prepare(jokers);
     std::shared_future<std::shared_ptr<const odds::Tables>> f;
@@ -80,6 +90,8 @@ Judgement Judge(const std::array<std::uint8_t, 5>& hand, int jokers, int mise, l
 }
 
 void Prepare(int jokers) { Analyst::Get().Prepare(jokers); }
+
+void WaitUntilPrepared(int jokers) { Analyst::Get().Wait(jokers); }
 
 void Coach::Follow(const Table& t) {
   r_.english = t.english;

@@ -35,6 +35,8 @@ Judgement Judge(const std::array<std::uint8_t, 5>& hand, int jokers, int mise, l
 
 // Starts building the tables of a deck in the background, so that the first deal is judged fast.
 void Prepare(int jokers);
+// Waits until those tables are built (for the benchmarks).
+void WaitUntilPrepared(int jokers);
 
 class Coach {
  public:

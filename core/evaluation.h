@@ -1,6 +1,14 @@
 // Hand evaluation on plain values: the classification of five cards into the eleven hand
 // classes, with everything the automatic selection reads afterwards. The form's Résultat and
 // the command-line tools both call it, so the game has one evaluation.
+//
+// Terms: a card is a code 0..53. Codes 0..51 are the natural cards, rank code % 13 (0 the
+// two .. 12 the ace) in the suit block 13 x (code / 13) (0 clubs, 13 diamonds, 26 hearts,
+// 39 spades); 52 and 53 are the jokers. A class ("rang") is 0 pair of kings or aces, 1 two
+// pairs, 2 three of a kind, 3 straight, 4 flush, 5 full house, 6 four of a kind, 7 straight
+// flush, 8 royal flush, 9 five of a kind, 10 nothing.
+// Cache and threads: none. These are pure functions of their arguments, safe on any thread
+// (the odds engine calls ClasseMain from its workers).
 #pragma once
 
 #include <array>

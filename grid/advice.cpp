@@ -1,6 +1,7 @@
 // JEU 2's advice between the drawings. The rule is gathered during the first drawing's
 // settlement into LignesJouées (a position is kept as soon as one line in play keeps it);
 // CONSEILS only turns down the others, ANNULE turns every card up again.
+#include "core/table_facts.h"
 #include "interface/JeuPoker.h"
 #include "services/platform.h"
 
@@ -10,7 +11,7 @@ void JeuPoker::Conseils5_Click() {
   // Cards only go down: one the player turned down stays down.
   for (int p = 0; p <= 24; ++p) {
     if (LignesJouées(p) || FaceCachée(p)) continue;
-    Deal2(p).SetPicture(Cartes(54).GetPicture());
+    Deal2(p).SetPicture(Cartes(kDos).GetPicture());
     Sys().DoEvents();
   }
 }

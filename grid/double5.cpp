@@ -1,20 +1,17 @@
 // JEU 2's double-up: the whole win of the deal against one card. The house's card lies face
 // up at position 0 (ranks two to king only, so it can always be beaten), the other 24 are
 // covered, and the player picks one. Higher doubles, equal keeps, lower loses all.
+#include "core/table_facts.h"
 #include "interface/JeuPoker.h"
 #include "services/platform.h"
-
-namespace {
-constexpr int kDos = 54;
-}  // namespace
 
 void JeuPoker::Double5X5_Click() {
   Tirage->SetFocus();
   if (AutoPlay->BevelWidth() == 0) return;
-  AutoPlay->SetMousePointer(12);
-  AutoPlayStop->SetMousePointer(12);
-  Jouer->SetMousePointer(12);
-  for (int p = 0; p <= 24; ++p) Deal2(p).SetMousePointer(99);
+  AutoPlay->SetMousePointer(kInterdit);
+  AutoPlayStop->SetMousePointer(kInterdit);
+  Jouer->SetMousePointer(kInterdit);
+  for (int p = 0; p <= 24; ++p) Deal2(p).SetMousePointer(kCarte);
   // Set before the covering loop yields: a card clicked meanwhile is already the pick.
   DoubleEnCours = true;
   Sys().Randomize(Sys().Timer());
@@ -33,10 +30,10 @@ void JeuPoker::Double5X5_Click() {
 }
 
 void JeuPoker::ChoixCarteQouD5() {
-  AutoPlay->SetMousePointer(10);
-  Jouer->SetMousePointer(10);
-  AutoPlayStop->SetMousePointer(12);
-  for (int p = 0; p <= 24; ++p) Deal2(p).SetMousePointer(12);
+  AutoPlay->SetMousePointer(kFlèche);
+  Jouer->SetMousePointer(kFlèche);
+  AutoPlayStop->SetMousePointer(kInterdit);
+  for (int p = 0; p <= 24; ++p) Deal2(p).SetMousePointer(kInterdit);
   DoubleEnCours = false;
   if (!SSAlertes->Caption().isEmpty()) SSAlertes->SetCaption(QString());
 
@@ -100,7 +97,7 @@ void JeuPoker::Quitte5X5_Click() {
   Tirage->SetFocus();
   Pointeur10();
   if (AutoPlay->BevelWidth() == 0) return;
-  for (int p = 0; p <= 24; ++p) Deal2(p).SetMousePointer(12);
+  for (int p = 0; p <= 24; ++p) Deal2(p).SetMousePointer(kInterdit);
   Doubler5->SetVisible(false);
   Jouez5->SetVisible(true);
   const bool couvert = static_cast<long long>(Niveau) * Mise <= static_cast<long long>(Capital) + GainTirage;

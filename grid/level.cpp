@@ -1,20 +1,15 @@
 // JEU 2's bet level 1..12: the number of lines in play, always from line 1 upward. The two
 // buttons are a ring: 12 wraps to 1 at any credit, and the two steps that raise the stake
 // are refused silently when the credit does not cover them.
+#include "core/colours.h"
+#include "core/table_facts.h"
 #include "interface/JeuPoker.h"
-
-namespace {
-constexpr Long kJaune = 0x00FFFF;
-constexpr Long kGris = 0x808080;
-constexpr int kFlèche = 10;
-constexpr int kInterdit = 12;
-}  // namespace
 
 void JeuPoker::MetLigneEnJeu(int i, bool enJeu) {
   Mains5(i).SetVisible(enJeu);
   Gains5(i).SetVisible(enJeu);
   UnADouzeLine(i).SetVisible(enJeu);
-  UnADouzeTémoin(i).SetBackColor(enJeu ? kJaune : kGris);
+  UnADouzeTémoin(i).SetBackColor(enJeu ? couleur::kJaune : couleur::kGris);
 }
 
 void JeuPoker::RemetNiveauÀUn() {
@@ -73,20 +68,10 @@ void JeuPoker::Moins5_Click() {
 // elsewhere it is left as it is.
 void JeuPoker::Plus5_MouseMove(int, int, int, int) {
   MontreAide(22, false, false);
-  if (MiseRefusée() || Niveau >= 12) return;
-  const bool couvert = (static_cast<long long>(Niveau) + 1) * Mise <= Capital;
-  if (Plus5->MousePointer() == kFlèche && !couvert)
-    Plus5->SetMousePointer(kInterdit);
-  else if (Plus5->MousePointer() == kInterdit && couvert)
-    Plus5->SetMousePointer(kFlèche);
+  PointeurMise(*Plus5, Niveau < 12, (static_cast<long long>(Niveau) + 1) * Mise);
 }
 
 void JeuPoker::Moins5_MouseMove(int, int, int, int) {
   MontreAide(21, false, false);
-  if (MiseRefusée() || Niveau != 1) return;
-  const bool couvert = static_cast<long long>(Mise) * 12 <= Capital;
-  if (Moins5->MousePointer() == kFlèche && !couvert)
-    Moins5->SetMousePointer(kInterdit);
-  else if (Moins5->MousePointer() == kInterdit && couvert)
-    Moins5->SetMousePointer(kFlèche);
+  PointeurMise(*Moins5, Niveau == 1, static_cast<long long>(Mise) * 12);
 }

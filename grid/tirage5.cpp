@@ -3,15 +3,12 @@
 // is only shown, the second one's is the win. Between the drawings the player turns cards
 // face down, and exactly those are replaced.
 //
-// A position is face down exactly when its button shows the picture of Cartes(54): there is
+// A position is face down exactly when its button shows the picture of Cartes(kDos): there is
 // no other record of it. The animation yields at every step, so other handlers (a second
 // PLAY included) can run inside a drawing; nothing guards against it, as in the classic game.
+#include "core/table_facts.h"
 #include "interface/JeuPoker.h"
 #include "services/platform.h"
-
-namespace {
-constexpr int kDos = 54;  // Cartes(54), the card back
-}  // namespace
 
 Byte JeuPoker::PositionLigne(int ligne, int j) {
   if (ligne <= 5) return vb::CByte(5 * (ligne - 1) + j);
@@ -38,39 +35,30 @@ void JeuPoker::MontreCarte2(int p, Picture image) {
 }
 
 void JeuPoker::Tirage5() {
-  // 1-4. A new deal: close the last one, lay the table and take the stake (checked by the
-  // callers and by InitPremierTirage5, not here).
+  // A new deal: close the last one, turn the grid down and give the cards the card pointer.
   if (NbTirées != 25) {
     InitPremierTirage5();
-    for (int p = 0; p <= 24; ++p) Deal2(p).SetMousePointer(99);
+    for (int p = 0; p <= 24; ++p) Deal2(p).SetMousePointer(kCarte);
   }
+  // The double-up offer of the last deal goes, and the PLAY invitation.
   if (Doubler5->Visible()) Doubler5->SetVisible(false);
   if (NbTirées == 0 || NbTirées == 25) Jouez5->SetVisible(false);
-  if (NbTirées == 0) {
-    Capital = vb::CLng(static_cast<long long>(Capital) - static_cast<long long>(Niveau) * Mise);
-    AfficheCapital();
-  }
+  // The stake, at the start of a deal only (the credit is checked by the callers and by
+  // InitPremierTirage5, not here).
+  if (NbTirées == 0) PrélèveMise();
 
-  // 5. Every position counts; only the face-down ones get a card, never one already out in
+  // Every position counts; only the face-down ones get a card, never one already out in
   // this deal. Each try reads the clock anew.
   for (int p = 0; p <= 24; ++p) {
     NbTirées = vb::CByte(NbTirées + 1);
     if (!FaceCachée(p)) continue;
-    int tirée = 0;
-    for (;;) {
-      Sys().Randomize(Sys().Timer());
-      tirée = Sys().RandomInt(static_cast<int>(TailleJeu));
-      bool sortie = false;
-      for (int k = 1; k <= 50; ++k)
-        if (CartesSorties(k) == tirée) sortie = true;
-      if (!sortie) break;
-    }
+    const int tirée = TireCarteNonSortie(50);
     MontreCarte2(p, Cartes2(tirée).GetPicture());
     CartesTirage(p) = vb::CByte(tirée);
     CartesSorties(NbTirées) = vb::CInt(tirée);
   }
 
-  // 6. Between the drawings: the advice panel, and the advice gathered anew.
+  // Between the drawings: the advice panel, and the advice gathered anew.
   if (NbTirées == 25) {
     Pointeur12();
     SSConseils5->SetVisible(true);
@@ -118,7 +106,7 @@ void JeuPoker::RègleLignes() {
 }
 
 void JeuPoker::ConclutTirage5() {
-  for (int p = 0; p <= 24; ++p) Deal2(p).SetMousePointer(12);
+  for (int p = 0; p <= 24; ++p) Deal2(p).SetMousePointer(kInterdit);
   SSConseils5->SetVisible(false);
   const long long mise = static_cast<long long>(Niveau) * Mise;
   if (GainTirage > 0) {
@@ -148,17 +136,17 @@ void JeuPoker::ConclutTirage5() {
 }
 
 void JeuPoker::InitPremierTirage5() {
-  // 1. Winnings are collected here, on PLAY as well as on QUITTE.
+  // Winnings are collected here, on PLAY as well as on QUITTE.
   if (GainTirage != 0) {
     Capital = vb::CLng(static_cast<long long>(Capital) + GainTirage);
     AfficheCapital();
     GainTirage = 0;
   }
-  // 2. A bet the credit no longer covers falls back to 1 after a finished deal.
+  // A bet the credit no longer covers falls back to 1 after a finished deal.
   if (NbTirées == 50 && static_cast<long long>(Niveau) * Mise > Capital) {
     RemetNiveauÀUn();
   }
-  // 3-5.
+  // A fresh deal: no card drawn or out yet, the win and the line captions blank.
   NbTirées = 0;
   Gains->SetCaption(QString());
   AfficheGain();
@@ -169,7 +157,7 @@ void JeuPoker::InitPremierTirage5() {
   }
   Gains5(12).SetCaption(QString());
   for (int k = 1; k <= 50; ++k) CartesSorties(k) = -1;
-  // 6. The grid goes face down, yielding once a card even without the animation.
+  // The grid goes face down, yielding once a card even without the animation.
   for (int p = 0; p <= 24; ++p) {
     if (FaceCachée(p)) continue;
     if (!AffichageImmédiat) AnimeCarte2(p, false);

@@ -1,8 +1,65 @@
 // The main form: every control, all game state and every routine of the game.
 //
 // Routines are member functions with no arguments that talk through the form's variables
-// and its controls, as an event-driven form does. Their bodies live in the subsystem
-// folders (core/, classic/, grid/, probability/, interface/, services/).
+// and its controls, as an event-driven form does. This header is the map of the program: the
+// members are grouped by subsystem, and each group names the files that hold its bodies.
+//
+//   core/         game state, pay tables, new game and deal set-up, Résultat; the hand
+//                 evaluation on plain values (core/evaluation.*) that the odds tool shares
+//   classic/      JEU 1: the draw cycle, holds, automatic selection, double-up, automatic play
+//   grid/         JEU 2: the grid's drawing, lines and settlement, level, advice, double-up
+//   probability/  the panel's counts (one file per group of hand classes) and statistics
+//   interface/    this form, its controls and pictures, digit displays, alerts, language
+//                 tables, hints, game switch and options
+//   services/     start-up and the settings file, music, display mode, web panels, and the
+//                 platform seam (services/platform.h) every call leaving the program goes through
+//
+// Where to start: Form_Load (services/startup.cpp) builds the table; a click on PLAY runs
+// Jouer_Click, then Tirage1 (classic/round.cpp) in JEU 1 or Tirage5 (grid/tirage5.cpp) in
+// JEU 2; Résultat (core/resultat.cpp) classifies a hand and Probabilités
+// (probability/driver.cpp) fills the odds panel.
+//
+// Names that are easy to confuse (the game's own names, kept as they are):
+// - Credit row: ImageCrédit its background, CréditImage its title "CREDIT", CapImage(0..7)
+//   the digits of Capital (the credit itself; no label holds it).
+// - Win row: ImageGains its background, GainsImage its title (0 shown, 1 "GAINS", 2 "WIN"),
+//   GainImage(0..7) the digits, Gains the hidden label whose text the digits show; Gains5 the
+//   grid's line prices (12 the total); GainMain a hand's multiplier, GainTirage the drawing's win.
+// - Bet row: ImageMises its background, MisesImage its title (0 shown, 1 "MISE", 2 "BET"),
+//   MiseImage(0..2) the digits, Mises the hidden label with the stake (Niveau x Mise); Mise is
+//   the bet of one hand or line.
+// - Level row: ImageUnàDouze its background, UnàDouze its title picture, UnàDouzeImage(0..1)
+//   the digits, UnADouze (no accent) the hidden label holding Niveau's text; UnADouzeTémoin
+//   (0..11) the grid's line number tags and UnADouzeLine(0..11) its drawn lines.
+// - Jouer the PLAY panel, JouerImage its face (0 shown, 1..2 at rest and 3..4 pressed, French
+//   then English); Jouez(0..4) the hold panels under JEU 1's cards (JOUEZ, GARDER, JETER);
+//   Jouez5 the grid's PLAY caption; Tirage the small button behind Jouer that holds the
+//   keyboard focus; Tirage1 and Tirage5 the drawings; CartesTirage the cards dealt.
+// - Cartes(0..54) and Cartes2(0..53) the stores of large and small faces; Deal(0..4) JEU 1's
+//   card buttons, Deal2(0..24) the grid's; CartesMains(0..4) the example hand over the hints.
+// - Doubler and Doubler5 the double-up panels of JEU 1 and JEU 2, Double1X5 and Double5X5 their
+//   DOUBLE buttons, Quitte1X5 and Quitte5X5 their QUIT buttons.
+// - Maintitre(0..11) the pay table's titles, MainLabel(0..9) its amounts, MainsPayantes its
+//   head; Mains5(0..12) the grid's line names, MainsLignes their classes; MainsPossibles the
+//   odds at rest; NomsMains the hand names.
+// - PourcDéc the whole part of a percentage, Pourcentages its decimals, Fractions the count,
+//   UnSur and PourCentLabel the heads of those columns; Réalisations the counts themselves.
+// - Fréquence(0..9) the tally's labels, Fréquences its counts, FréquenceTitre its head;
+//   FréquenceÉcran the display's refresh rate.
+// - Messages the hint table, SSMessages the hint panel, SSAlertes the alert line; Aides the
+//   rules page's labels on SSAides.
+// - SSLangue, SSVitesse, ParesseOui/Non the buttons of the top bar; PSSlangue, PSSVitesse,
+//   PParesseOui/Non their lamps.
+// - NbJokers the jokers in the game, TailleJeu the deck's size, NbJokersGardés the jokers held,
+//   JokersRestants those left in the deck.
+// - TotalRoiOuAs: the running total of several counting routines, not only the kings or aces.
+//
+// Langue, the language in force: 0 or 2 English, anything else French. Ini.dat stores 2 for
+// English and 3 for French. 0 is also the value at a first start (no byte stored): the texts
+// then read English while the screen, built in French, stays French. 0 and 1 are set for a
+// moment by a click on a flag (0 the English one, 1 the French one) while ModifieLangue turns
+// the screen, then stored as 2 or 3. The JOUER face alone asks for 2 exactly. LangueVar is the
+// offset of the hint table's half in use: 0 French, 100 English.
 #pragma once
 
 #include <QHash>
@@ -17,17 +74,9 @@
 #include "coach/coach.h"
 #include "coach/window.h"
 #include "core/vb.h"
+#include "interface/card_faces.h"
 #include "interface/controls.h"
-#include "interface/pictures_art.h"
-
-// The display-mode record: what the last change asked for, by field.
-struct DisplayModeRecord {
-  int width = 0;
-  int height = 0;
-  int bitsPerPixel = 0;
-  int frequency = 0;
-  unsigned fields = 0;
-};
+#include "services/display_mode.h"
 
 class JeuPoker : public QWidget {
  public:
@@ -39,7 +88,11 @@ class JeuPoker : public QWidget {
   const QString& ProgramDir() const { return programDir_; }
   const QString& DataDir() const { return dataDir_; }
 
-  // ---- Controls -------------------------------------------------------------------------
+  // ==== Interface: the controls =============================================================
+  // Built in their places by interface/inventory.cpp, their pictures drawn by
+  // interface/pictures.cpp, their events wired by interface/JeuPoker.cpp.
+
+  // Frames, the off-screen stores, the web panels and the timers.
   Control* Jeu = nullptr;
   Control* SSCartes = nullptr;
   Control* SSCartes2 = nullptr;
@@ -53,6 +106,7 @@ class JeuPoker : public QWidget {
   TimerControl* NonConnectéTimer = nullptr;
   TimerControl* MusicTimer = nullptr;
 
+  // Top bar: title, deck choice (52, 53, 54), menu buttons and their lamps.
   Control* JeuTitre = nullptr;
   ControlArray<Control> TitreImage;  // 0 on JeuTitre, 1..2 stored
   Control* SSNJokerSélection = nullptr;
@@ -73,6 +127,7 @@ class JeuPoker : public QWidget {
   Control* PParesseOui = nullptr;
   ControlArray<Control> PSSVitesse;
 
+  // Pay table, probability panel and statistics column.
   Control* SSGains = nullptr;
   ControlArray<Control> Maintitre;
   ControlArray<Control> MainLabel;
@@ -86,6 +141,7 @@ class JeuPoker : public QWidget {
   Control* UnSur = nullptr;
   Control* FréquenceTitre = nullptr;
 
+  // Credit, win, bet and level rows (their names are told apart at the top of this file).
   Control* SSMises = nullptr;
   Control* ImageCrédit = nullptr;
   Control* ImageGains = nullptr;
@@ -107,11 +163,13 @@ class JeuPoker : public QWidget {
   Control* Moins5 = nullptr;
   Control* Plus5 = nullptr;
 
+  // PLAY, and the focus holder behind it.
   Control* SSTirage = nullptr;
   Control* Jouer = nullptr;
   ControlArray<Control> JouerImage;  // 0 on Jouer, 1..4 stored
   Control* Tirage = nullptr;
 
+  // Choice of game.
   Control* SSMenuJeux = nullptr;
   Control* SSJeuSimple = nullptr;
   Control* SSJeu3D = nullptr;
@@ -120,9 +178,11 @@ class JeuPoker : public QWidget {
   Control* JeuSimpleLabel = nullptr;
   Control* Jeu3DLabel = nullptr;
 
+  // Hint panel and its example hand.
   Control* SSMessages = nullptr;
   ControlArray<Control> CartesMains;
 
+  // JEU 1's play area: cards, hold panels, selection pictures, double-up panel.
   Control* SSAireJeu = nullptr;
   ControlArray<Control> Deal;
   ControlArray<Control> Jouez;
@@ -131,6 +191,7 @@ class JeuPoker : public QWidget {
   Control* Quitte1X5 = nullptr;
   Control* Double1X5 = nullptr;
 
+  // JEU 2's grid: cards, HELP and CANCEL, double-up panel, line names, prices, tags and lines.
   Control* SSAireJeu5 = nullptr;
   ControlArray<Control> Deal2;
   Control* Jouez5 = nullptr;
@@ -146,14 +207,17 @@ class JeuPoker : public QWidget {
   ControlArray<Control> UnADouzeTémoin;
   ControlArray<Control> UnADouzeLine;
 
+  // The alert line.
   Control* SSAlertes = nullptr;
 
+  // The no-connection notice.
   Control* NonConnectéPic = nullptr;
   Control* LogoFondPic = nullptr;
   Control* LogoWeb = nullptr;
   Control* NonConnectéCmd = nullptr;
   Control* NonConnectéLbl = nullptr;
 
+  // The rules page.
   Control* AidesOk = nullptr;
   ControlArray<Control> Aides;
 
@@ -164,6 +228,7 @@ class JeuPoker : public QWidget {
   Control* FileMid = nullptr;
   QStringList FileMidItems;  // the *.mid pieces of the program's folder
 
+  // Control look-up by name (interface/inventory.cpp), for talvero-drive and tests.
   // Looks a control up by name and index (-1 for a single control); nullptr when absent.
   Control* FindControl(const QString& name, int index) const;
   TimerControl* FindTimer(const QString& name) const;
@@ -175,7 +240,9 @@ class JeuPoker : public QWidget {
   };
   std::vector<NameEntry> ControlNames() const;
 
-  // ---- Game state (core) ----------------------------------------------------------------
+  // ==== Core: game state ====================================================================
+  // core/state.cpp: Initialise, InitPremierTirage, the pay table; core/resultat.cpp: Résultat,
+  // over the evaluation on plain values in core/evaluation.*.
   vb::Array<Byte, 0, 50> CartesTirage;
   vb::Array<Integer, 0, 50> CartesSorties;
   Byte NbTirées = 0;
@@ -207,15 +274,30 @@ class JeuPoker : public QWidget {
   vb::Array<Byte, 0, 4> IndexLigne;
   Byte NbJokers = 2;
   Long TailleJeu = 54;
-  Byte Langue = 0;
+  Byte Langue = 0;  // 0 or 2 English, anything else French (see the top of this file)
   vb::Array<QString, 0, 201> Messages;
 
   // Core routines.
   void Initialise();
   void InitPremierTirage();
   void Résultat();
+  // Fills TableGains for NbJokers (the classic pay table).
+  void RemplitTableGains();
+  // Puts the highlighted row of the pay table back to white on black.
+  void EffaceLigneGagnante();
+  // Niveau x Mise taken from Capital, and the credit shown.
+  void PrélèveMise();
+  // Draws a code of the deck, with the clock read anew before each try, until one is not
+  // among CartesSorties(1..sorties). `avantEssai`, when given, runs before each try and ends
+  // the search by returning false; the result is then -1.
+  int TireCarteNonSortie(int sorties, const std::function<bool()>& avantEssai = {});
 
-  // ---- Classic game ---------------------------------------------------------------------
+  // ==== Classic game: JEU 1 ==================================================================
+  // classic/round.cpp: the draw cycle (Jouer_*, Tirage_*, Tirage1, InitTirage);
+  // classic/holds.cpp: Deal_Click, the keys and the hold words; classic/selection.cpp: the
+  // automatic selection (GardeCartes, MarqueCarte, Paresse*), over the rules on plain values
+  // in classic/selection_rules.*; classic/double.cpp: the double-up; classic/automatic.cpp:
+  // automatic play, in both games.
   void Jouer_Click();
   void Jouer_MouseDown(int button, int shift, int x, int y);
   void Jouer_MouseUp(int button, int shift, int x, int y);
@@ -238,16 +320,12 @@ class JeuPoker : public QWidget {
   void Quitte1X5_Click();
   void ChoixCarteQouD();
 
-  // Additions of the classic round (state, Résultat, draw cycle):
+  // The draw cycle (classic/round.cpp):
   void RemetMiseÀUn();
-  // Fills TableGains for NbJokers (the classic pay table).
-  void RemplitTableGains();
-  // Puts the highlighted row of the pay table back to white on black.
-  void EffaceLigneGagnante();
   // Shrinks (grow false) or grows a card button in 30 steps of 0.94, yielding at each.
   void AnimeCarte(Control& carte, bool grow);
 
-  // Additions of holds, automatic selection and double-up:
+  // Holds (classic/holds.cpp) and the automatic selection (classic/selection.cpp):
   // Hold and reject words of the language in force.
   QString MotCarteGardée() const;
   QString MotCarteJetée() const;
@@ -255,10 +333,19 @@ class JeuPoker : public QWidget {
   void InverseJouez(int index);
   // Marks position PositionsMain(i) to be kept.
   void MarqueCarte(int i);
-  // Fills NomsValeurs with the card names of the language in force.
-  void RemplitNomsValeurs();
 
-  // ---- 2D game ----------------------------------------------------------------------------
+  // Automatic play, in both games (classic/automatic.cpp):
+  void AutoPlay_Click();
+  void AutoPlayStop_Click();
+  void AutoPlayTimer_Timer();
+  bool AutoEnCours() const;
+  // The pointers of the table's buttons and cards while the mode runs, or at rest.
+  void PointeursAuto(bool enMarche);
+
+  // ==== Grid: JEU 2 ==========================================================================
+  // grid/tirage5.cpp: Tirage5, the deal and the settlement of the lines; grid/level.cpp: the
+  // level (Plus5, Moins5) and the lines in play; grid/advice.cpp: HELP and CANCEL;
+  // grid/double5.cpp: the double-up.
   vb::Array<Byte, 0, 11> MainsLignes;  // RangMain of each line at the last settlement
   void Tirage5();
   void InitPremierTirage5();
@@ -274,7 +361,7 @@ class JeuPoker : public QWidget {
   void Conseils5_Click();
   void AnnuleConseils5_Click();
 
-  // Additions of the grid:
+  // Lines, cards and settlement (grid/tirage5.cpp), level and lines in play (grid/level.cpp):
   // Grid position of place j (0..4) of line 1..12, in the order the line reads them.
   static Byte PositionLigne(int ligne, int j);
   // Position p shows the card back.
@@ -293,19 +380,13 @@ class JeuPoker : public QWidget {
   // Bet and level back to 1 with their digits; the lines beyond the first go out of play.
   void RemetNiveauÀUn();
 
-  // Automatic mode:
-  void AutoPlay_Click();
-  void AutoPlayStop_Click();
-  void AutoPlayTimer_Timer();
-  bool AutoEnCours() const;
-  // The pointers of the table's buttons and cards while the mode runs, or at rest.
-  void PointeursAuto(bool enMarche);
-
-  // ---- Probability engine -----------------------------------------------------------------
+  // ==== Probability: the odds panel ==========================================================
+  // probability/driver.cpp: Probabilités, the tables of held and remaining cards and the
+  // panel's labels; one file per group of counts (named below); probability/statistics.cpp:
+  // the panel at rest and the tally of hands.
   void Probabilités();
   void AfficheFréquence();
 
-  // Additions of the probability engine and statistics panel:
   // A two-index table with bounds (R0..R1, C0..C1); the first index runs fastest.
   template <class T, int R0, int R1, int C0, int C1>
   class Tableau2 {
@@ -344,6 +425,7 @@ class JeuPoker : public QWidget {
   bool ComplémentFait = false;  // a lower class was computed as a complement
   bool CouleurPossible = false;
   bool QuintePossible = false;
+  // The running total of several counting routines, not only of the kings or aces.
   double TotalRoiOuAs = 0;
   Tableau2<Integer, 0, 18, 0, 3> RestantsQF;  // (face position, suit)
   Integer NbQF = 0;
@@ -354,19 +436,19 @@ class JeuPoker : public QWidget {
   void AfficheProbabilités();
   void EffaceProbabilités();
   // Counting routines, called by the driver in this order.
-  void ProbCouleur();
-  void ProbQuinte();
-  void ProbQF();
-  void QF0à2();
-  void QF3à4();
-  void ProbPoker();
-  void ProbCarré();
-  void ProbFull();
-  void ProbBrelan();
-  void ProbPaires2();
-  void ProbRoiOuAs();
-  void PairesQuintes0à2();
-  void PairesQuintes3à4();
+  void ProbCouleur();       // flushes.cpp: flushes
+  void ProbQuinte();        // straights.cpp: straights
+  void ProbQF();            // straightflushes.cpp: straight and royal flushes
+  void QF0à2();             // straightflushes.cpp
+  void QF3à4();             // straightflushes.cpp
+  void ProbPoker();         // flushes.cpp: five of a kind
+  void ProbCarré();         // fours_fulls.cpp: four of a kind
+  void ProbFull();          // fours_fulls.cpp: full house
+  void ProbBrelan();        // threes_twopairs.cpp: three of a kind
+  void ProbPaires2();       // threes_twopairs.cpp: two pairs
+  void ProbRoiOuAs();       // kings_aces.cpp: a pair of kings or aces
+  void PairesQuintes0à2();  // kings_aces.cpp
+  void PairesQuintes3à4();  // kings_aces.cpp
 
   // Statistics panel: the odds at rest (index 0..11, jokers 0..2) and the tally of hands.
   Tableau2<Byte, 0, 11, 0, 2> MainsPossibles;
@@ -381,7 +463,13 @@ class JeuPoker : public QWidget {
   template <class T, int R0, int R1, int C0, int C1>
   void BindTableau(const QString& name, Tableau2<T, R0, R1, C0, C1>& table);
 
-  // ---- Interface ----------------------------------------------------------------------------
+  // ==== Interface: displays, alerts, language, options, hints ===============================
+  // interface/digits.cpp: the digit displays, the bet buttons and the pointers;
+  // interface/alerts.cpp: the alert line; interface/language.cpp: the language tables and
+  // the switch; interface/options.cpp: the game switch and the top bar's options;
+  // interface/hints.cpp: the hints and the example hands.
+
+  // Digit displays, bet buttons and pointers (interface/digits.cpp):
   void AfficheCapital();
   void AfficheGain();
   void AfficheGain5();
@@ -393,6 +481,7 @@ class JeuPoker : public QWidget {
   void Moins_MouseMove(int button, int shift, int x, int y);
   void Pointeur10();
   void Pointeur12();
+  // Alerts (interface/alerts.cpp):
   void ClignoteAlertes();
   // The alert lines that several routines show, in the language in force.
   enum class Alerte {
@@ -411,13 +500,18 @@ class JeuPoker : public QWidget {
   // The end of a double-up duel: won (comparaison > 0), equal (0) or lost (< 0), with the
   // names of the player's card and the house's.
   QString TexteDuel(int comparaison, const QString& joueur, const QString& maison) const;
-  void ModifieLangue();
-  // Additions of the digit displays, bets, pointers and alerts:
+  // Digit displays and bets again (interface/digits.cpp):
   // The refusals shared by the bet buttons and their pointers: a double-up, the time between
   // two drawings, a pending win, no credit.
   bool MiseRefusée() const;
+  // After a change of Mise: the bet caption, its digits and the pay table's amounts.
+  void MiseChangée();
+  // The pointer of a bet button: while bets are open and the button's step raises the stake
+  // (`hausse`) to `enJeu`, an arrow turns to no entry when the credit does not cover it, and
+  // back when it does; otherwise the pointer is left as it is.
+  void PointeurMise(Control& bouton, bool hausse, long long enJeu);
 
-  // Game switch and options of the frame:
+  // Game switch and options of the frame (interface/options.cpp):
   void Jeu3D_Click();
   void JeuSimple_Click();
   void NJokerSélection_Click(int index);
@@ -434,7 +528,8 @@ class JeuPoker : public QWidget {
   void StatistiquesAuRepos();
   // Frames, labels and the statistics panel for the game in force.
   void PlaceJeux(bool grille);
-  // Language tables:
+  // Language tables and the switch (interface/language.cpp):
+  void ModifieLangue();
   vb::Array<QString, 0, 10> NomsMains;
   vb::Array<QString, 0, 3> NomsCouleurs;
   Integer LangueVar = 0;  // offset of the hint table: 0 French, 100 English
@@ -445,10 +540,14 @@ class JeuPoker : public QWidget {
   void RemplitMessages();
   // Puts the alert line into the other language when it is one of the known texts.
   void TraduitAlerte(bool versAnglais);
-  void SSLangue_MouseMove(int index);
+  // Fills NomsValeurs with the card names of the language in force.
+  void RemplitNomsValeurs();
+  // The rules page in French or English.
+  void ConstruitAides(bool anglais);
 
-  // Hints and example hands:
+  // Hints and example hands (interface/hints.cpp):
   void AfficheMessage();
+  void SSLangue_MouseMove(int index);
   void Deal2_MouseMove(int index);
   void Deal_MouseMove(int index);
   void Jouez_MouseMove(int index);
@@ -475,12 +574,13 @@ class JeuPoker : public QWidget {
   void Paresse_MouseMove(int clé);
   void Statistiques_MouseMove(int clé);
   void WireHints();
-  // The rules page in French or English.
-  void ConstruitAides(bool anglais);
-  // After a change of Mise: the bet caption, its digits and the pay table's amounts.
-  void MiseChangée();
 
-  // ---- Services ---------------------------------------------------------------------------
+  // ==== Services ============================================================================
+  // services/startup.cpp: Form_Load, the language flags and the settings file, the end;
+  // services/soundtrack.cpp: the music routines, over the player in services/music.*;
+  // services/display.cpp: the display mode and its question (over services/xrandr.*);
+  // services/web.cpp: the web panels and the no-connection notice. Every call that leaves
+  // the program goes through the platform seam, Sys() (services/platform.h).
   void Form_Load();
   void Form_QueryUnload();
   void Fin_Click();
@@ -508,7 +608,7 @@ class JeuPoker : public QWidget {
   Integer HauteurÉcran = 0;
   Integer CouleursÉcran = 0;
   Integer FréquenceÉcran = 0;
-  DisplayModeRecord ModeÉcran;  // the record the platform is given
+  DisplayMode ModeÉcran;  // the record the platform is given
   void VérifieRésolution();
   void RestaureRésolution();
   void ChangeAffichage(Integer& largeur, Integer& hauteur, Integer& couleurs, Integer& fréquence);
@@ -527,7 +627,7 @@ class JeuPoker : public QWidget {
   // one, the pages shipped in the program directory otherwise.
   QString AdresseWeb(const QString& page) const;
 
-  // ---- The coach (coach/link.cpp) ----------------------------------------------------------
+  // ==== The coach: coach/link.cpp, over coach/coach.* and the window's library ==============
   // A window beside the table that judges the holds of JEU 1 and keeps the session's record. It
   // reads the table at these moments and never writes it; until it first opens it does nothing.
   enum class MomentCoach {
@@ -546,7 +646,8 @@ class JeuPoker : public QWidget {
   QString LigneCoach() const;
   QString LigneSessionCoach() const;
 
-  // ---- Form-level variables by name, for talvero-drive and tests --------------------------
+  // ==== Form-level variables by name, for talvero-drive and tests ==========================
+  // interface/JeuPoker.cpp, each subsystem registering its own (Register*Variables).
   struct Variable {
     int low = -1, high = -1;  // -1, -1 for a scalar
     std::function<QString(int)> get;
@@ -560,11 +661,13 @@ class JeuPoker : public QWidget {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
-  // Builds every control in its place (the inventory) and wires the events.
+  // Builds every control in its place (the inventory, interface/inventory.cpp; the display
+  // question, services/display.cpp) and wires the events (interface/JeuPoker.cpp).
   void BuildControls();
   void BuildAfficheForm();
   void WireEvents();
-  // Renders the stored pictures (card faces, digits, titles) into the picture stores.
+  // Renders the stored pictures (card faces, digits, titles) into the picture stores
+  // (interface/pictures.cpp).
   void BuildPictures();
   Picture StorePicture(const QString& name, const QPixmap& pixmap);
   Picture StorePicture(const QString& name, std::function<QPixmap()> draw);
@@ -574,7 +677,9 @@ class JeuPoker : public QWidget {
   void Register(Control* c);
   TimerControl* MakeTimer(const QString& name, int interval, bool enabled);
 
-  // Variable registration, one function per subsystem.
+  // Variable registration, one function per subsystem: core in interface/JeuPoker.cpp,
+  // classic in classic/round.cpp, probability in probability/driver.cpp, interface in
+  // interface/digits.cpp; the templates in interface/bind.h.
   void RegisterVariables();
   void RegisterCoreVariables();
   void RegisterClassicVariables();

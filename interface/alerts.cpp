@@ -1,4 +1,6 @@
 // The blinking of the alert line.
+#include "core/colours.h"
+#include "core/table_facts.h"
 #include "interface/JeuPoker.h"
 #include "services/platform.h"
 
@@ -8,17 +10,17 @@
 void JeuPoker::ClignoteAlertes() {
   if (AutoPlay->BevelWidth() == 0) return;
   for (int i = 1; i <= 7; ++i) {
-    SSAlertes->SetForeColor(0);
+    SSAlertes->SetForeColor(couleur::kNoir);
     Sys().Sleep(40);
     Sys().DoEvents();
-    SSAlertes->SetForeColor(0x00C0C0);
+    SSAlertes->SetForeColor(couleur::kOcre);
     Sys().Sleep(150);
     Sys().DoEvents();
   }
 }
 
 QString JeuPoker::TexteAlerte(Alerte a) const {
-  const bool anglais = Langue == 0 || Langue == 2;
+  const bool anglais = Anglais(Langue);
   switch (a) {
     case Alerte::SecondTirage:
       return anglais ? QStringLiteral("SECOND DRAWING : Click on PLAY or press the 'Space' key.")
@@ -66,7 +68,7 @@ QString JeuPoker::TexteAlerte(Alerte a) const {
 }
 
 QString JeuPoker::TexteDuel(int comparaison, const QString& joueur, const QString& maison) const {
-  const bool anglais = Langue == 0 || Langue == 2;
+  const bool anglais = Anglais(Langue);
   if (comparaison > 0)
     return anglais ? QStringLiteral("YOU WIN ! %1 is stronger then %2. QUIT, DOUBLE or PLAY ?").arg(joueur, maison)
                    : QStringLiteral("GAGNE ! %1 est plus fort que %2. QUITTE, DOUBLE ou JOUER ?").arg(joueur, maison);

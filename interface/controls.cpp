@@ -7,6 +7,8 @@
 #include <QPainterPath>
 #include <cmath>
 
+#include "core/table_facts.h"
+
 namespace {
 QPixmap& CardPointerPixmap() {
   static QPixmap pixmap;
@@ -59,7 +61,7 @@ Control::Control(ControlKind kind, const QString& name, int index, QWidget* pare
       break;
     default: setFocusPolicy(Qt::NoFocus); break;
   }
-  if (kind_ == ControlKind::Label || kind_ == ControlKind::Image) backColor_ = 0x000000;
+  if (kind_ == ControlKind::Label || kind_ == ControlKind::Image) backColor_ = couleur::kNoir;
 }
 
 QString Control::FullName() const { return index_ < 0 ? name_ : QStringLiteral("%1(%2)").arg(name_).arg(index_); }
@@ -102,9 +104,9 @@ void Control::SetMousePointer(int pointer) {
 
 void Control::ApplyCursor() {
   switch (mousePointer_) {
-    case 10: setCursor(Qt::UpArrowCursor); break;
-    case 12: setCursor(Qt::ForbiddenCursor); break;
-    case 99:
+    case kFlèche: setCursor(Qt::UpArrowCursor); break;
+    case kInterdit: setCursor(Qt::ForbiddenCursor); break;
+    case kCarte:
       if (!CardPointerPixmap().isNull())
         setCursor(QCursor(CardPointerPixmap(), 4, 1));
       else
@@ -234,7 +236,7 @@ void Control::paintEvent(QPaintEvent*) {
     p.drawRect(r.adjusted(m, m, -m - 1, -m - 1));
   }
   if (kind_ == ControlKind::PictureBox) {
-    p.setPen(VbColor(0x404040));
+    p.setPen(VbColor(couleur::kGrisFoncé));
     p.drawRect(r.adjusted(0, 0, -1, -1));
   }
 }

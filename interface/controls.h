@@ -4,6 +4,16 @@
 // Visible, Left/Top/Width/Height in twips (15 to the pixel), Picture (a handle: pictures
 // are compared by identity), ForeColor/BackColor as 0xBBGGRR, MousePointer, BevelWidth,
 // Enabled and Alignment. Events are plain callbacks set by the form.
+//
+// Terms: a twip is 1/15 of a pixel; the widget keeps whole pixels, so a position read back
+// is a multiple of 15. Visible is the control's own flag, not whether an ancestor is shown.
+// BevelWidth is the depth of the drawn 3D edge, 0 or 1 for a pressed button. MousePointer
+// is 0 (the default), 10 (up arrow: will work), 12 (no entry: will refuse) or 99 (the card
+// pointer). A control array has bounds like the game's arrays; an index outside them is
+// run-time error 9.
+// Cache: a StoredPicture drawn on demand is drawn the first time it is shown and kept.
+// Threads: controls live on the GUI thread and are only touched there; a picture drawn by a
+// worker (the card faces) reaches them through its draw function, called on that thread.
 #pragma once
 
 #include <QColor>
@@ -14,6 +24,7 @@
 #include <functional>
 #include <vector>
 
+#include "core/colours.h"
 #include "core/vb.h"
 
 constexpr int kTwipsPerPixel = 15;
@@ -118,8 +129,8 @@ class Control : public QWidget {
   int index_;
   QString caption_;
   bool visible_ = true;
-  Long foreColor_ = 0;
-  Long backColor_ = 0xC0C0C0;
+  Long foreColor_ = couleur::kNoir;
+  Long backColor_ = couleur::kGrisClair;
   int mousePointer_ = 0;
   int bevelWidth_ = 0;
   Picture picture_ = nullptr;

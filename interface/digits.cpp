@@ -1,5 +1,7 @@
 // The digit displays of the credit, the winnings, the bet and the level; the bet buttons;
 // the mouse pointers that tell which controls will work.
+#include "core/colours.h"
+#include "core/table_facts.h"
 #include "interface/JeuPoker.h"
 #include "services/platform.h"
 
@@ -9,9 +11,6 @@ namespace {
 constexpr int kRouge = 0;  // winnings
 constexpr int kBleu = 10;  // credit
 constexpr int kGris = 20;  // bet and level
-
-constexpr int kFlèche = 10;    // the control will work
-constexpr int kInterdit = 12;  // the control will refuse
 
 // A number written with its sign place: a leading blank when it is not negative.
 QString AvecSigne(Long v) { return v < 0 ? QString::number(v) : QStringLiteral(" ") + QString::number(v); }
@@ -159,24 +158,24 @@ void JeuPoker::Moins_Click() {
   MiseChangée();
 }
 
+void JeuPoker::PointeurMise(Control& bouton, bool hausse, long long enJeu) {
+  if (MiseRefusée() || !hausse) return;
+  const bool couvert = enJeu <= Capital;
+  if (bouton.MousePointer() == kFlèche && !couvert)
+    bouton.SetMousePointer(kInterdit);
+  else if (bouton.MousePointer() == kInterdit && couvert)
+    bouton.SetMousePointer(kFlèche);
+}
+
+// The hint, then the pointer; the steps that raise the bet are one up and from 1 to 40.
 void JeuPoker::Plus_MouseMove(int, int, int, int) {
   MontreAide(20, false, false);
-  if (MiseRefusée() || Mise >= 40) return;
-  const bool couvert = (static_cast<long long>(Mise) + 1) * Niveau <= Capital;
-  if (Plus->MousePointer() == kFlèche && !couvert)
-    Plus->SetMousePointer(kInterdit);
-  else if (Plus->MousePointer() == kInterdit && couvert)
-    Plus->SetMousePointer(kFlèche);
+  PointeurMise(*Plus, Mise < 40, (static_cast<long long>(Mise) + 1) * Niveau);
 }
 
 void JeuPoker::Moins_MouseMove(int, int, int, int) {
   MontreAide(19, false, false);
-  if (MiseRefusée() || Mise != 1) return;
-  const bool couvert = static_cast<long long>(Niveau) * 40 <= Capital;
-  if (Moins->MousePointer() == kFlèche && !couvert)
-    Moins->SetMousePointer(kInterdit);
-  else if (Moins->MousePointer() == kInterdit && couvert)
-    Moins->SetMousePointer(kFlèche);
+  PointeurMise(*Moins, Mise == 1, static_cast<long long>(Niveau) * 40);
 }
 
 void JeuPoker::Pointeur10() {
@@ -219,11 +218,11 @@ void JeuPoker::Pointeur12() {
     // The game is lost: automatic mode is put at rest and only a new game is offered.
     AutoPlay->SetMousePointer(kInterdit);
     AutoPlay->SetBevelWidth(3);
-    AutoPlay->SetForeColor(0);
-    AutoPlay->SetBackColor(0x656565);
+    AutoPlay->SetForeColor(couleur::kNoir);
+    AutoPlay->SetBackColor(couleur::kGrisMarche);
     AutoPlayStop->SetMousePointer(kInterdit);
     AutoPlayStop->SetBevelWidth(0);
-    AutoPlayStop->SetForeColor(0x0000C0);
+    AutoPlayStop->SetForeColor(couleur::kRougeSombre);
     AutoPlayTimer->SetEnabled(false);
     SSRecommence->SetMousePointer(kFlèche);
   }

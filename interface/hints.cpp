@@ -1,5 +1,7 @@
 // The hint line SSMessages: every control says what it does when the mouse passes over it,
 // in the language of the hint table (LangueVar), and the pay table shows example hands.
+#include "core/colours.h"
+#include "core/table_facts.h"
 #include "interface/JeuPoker.h"
 
 namespace {
@@ -8,8 +10,6 @@ constexpr int kNonDisponibleAuto = 50;
 
 // A number with the place of its sign: a leading blank when it is not negative.
 QString Str(long long v) { return v < 0 ? QString::number(v) : QStringLiteral(" ") + QString::number(v); }
-
-bool DitJouer(const Control& c) { return c.Caption() == "PLAY" || c.Caption() == "JOUEZ"; }
 
 // The example hand of each row of the pay table, as card codes.
 constexpr int kExemples[11][5] = {
@@ -50,7 +50,7 @@ void JeuPoker::CacheExemple() {
 
 void JeuPoker::Deal2_MouseMove(int index) {
   if (NbTirées != 25) {
-    if (Jouez5->Visible() && DitJouer(*Jouez5))
+    if (Jouez5->Visible() && DitMot(Jouez5->Caption(), kMotJouez))
       TexteAide = 1;
     else if (!(!Doubler5->Visible() && DoubleEnCours))
       TexteAide = Doubler5->Visible() ? 5 : 24;
@@ -75,7 +75,7 @@ void JeuPoker::Deal_MouseMove(int index) {
     clé = index == 0 ? 99 : 4;
   else if (NbTirées == 5)
     clé = Jouez(index).Caption() == MotCarteGardée() ? 3 : 2;
-  else if (Jouez(0).Visible() && DitJouer(Jouez(0)))
+  else if (Jouez(0).Visible() && DitMot(Jouez(0).Caption(), kMotJouez))
     clé = 1;
   else
     clé = Doubler->Visible() ? 5 : 6;
@@ -86,11 +86,11 @@ void JeuPoker::Jouez_MouseMove(int index) {
   CacheExemple();
   const QString c = Jouez(index).Caption();
   int clé = TexteAide;
-  if (c == "PLAY" || c == "JOUEZ")
+  if (DitMot(c, kMotJouez))
     clé = 1;
-  else if (c == "REJECT" || c == "JETER")
+  else if (DitMot(c, kMotJeter))
     clé = 11;
-  else if (c == "HOLD" || c == "GARDER")
+  else if (DitMot(c, kMotGarder))
     clé = 12;
   MontreAide(clé, true, false);
 }
@@ -98,13 +98,13 @@ void JeuPoker::Jouez_MouseMove(int index) {
 void JeuPoker::SSAireJeu_MouseMove() {
   CacheExemple();
   int clé = Doubler->Visible() ? 5 : 6;
-  if (Jouez(0).Visible() && DitJouer(Jouez(0))) clé = 1;
+  if (Jouez(0).Visible() && DitMot(Jouez(0).Caption(), kMotJouez)) clé = 1;
   MontreAide(clé, true, false);
 }
 
 void JeuPoker::SSAireJeu5_MouseMove() {
   int clé = Doubler5->Visible() ? 5 : 24;
-  if (Jouez5->Visible() && DitJouer(*Jouez5)) clé = 1;
+  if (Jouez5->Visible() && DitMot(Jouez5->Caption(), kMotJouez)) clé = 1;
   MontreAide(clé, true, false);
 }
 
@@ -125,8 +125,8 @@ void JeuPoker::Mises_MouseMove() {
 
 void JeuPoker::UnADouzeTémoin_MouseMove(int index) {
   Aide(27);
-  const bool anglais = Langue == 0 || Langue == 2;
-  const bool enJeu = UnADouzeTémoin(index).BackColor() == 0x00FFFF;
+  const bool anglais = Anglais(Langue);
+  const bool enJeu = UnADouzeTémoin(index).BackColor() == couleur::kJaune;
   Messages(0) += Str(index + 1) + "\r" +
                  (enJeu ? (anglais ? QStringLiteral(" Selected") : QStringLiteral(" Sélectionné"))
                         : (anglais ? QStringLiteral(" No selected") : QStringLiteral(" Non sélectionné")));

@@ -3,6 +3,8 @@
 #include <QCloseEvent>
 #include <QMouseEvent>
 
+#include "core/colours.h"
+#include "core/table_facts.h"
 #include "interface/JeuPoker.h"
 #include "services/web.h"
 
@@ -97,23 +99,23 @@ void JeuPoker::BuildControls() {
   // ---- Top level --------------------------------------------------------------------------
   Pub0Pic = Make(K::PictureBox, "Pub0Pic", nullptr, 0, 8700, 15360, 11520 - 8700);
   Pub1Pic = Make(K::PictureBox, "Pub1Pic", nullptr, 11940, 0, 15360 - 11940, 8700);
-  Pub0Pic->SetBackColor(0x201008);
-  Pub1Pic->SetBackColor(0x201008);
+  Pub0Pic->SetBackColor(couleur::kFondPub);
+  Pub1Pic->SetBackColor(couleur::kFondPub);
   Pub0Web = Make(K::PictureBox, "Pub0Web", Pub0Pic, 0, 0, Pub0Pic->Width(), Pub0Pic->Height());
   Pub1Web = Make(K::PictureBox, "Pub1Web", Pub1Pic, 0, 0, Pub1Pic->Width(), Pub1Pic->Height());
-  Pub0Web->SetBackColor(0x201008);
-  Pub1Web->SetBackColor(0x201008);
+  Pub0Web->SetBackColor(couleur::kFondPub);
+  Pub1Web->SetBackColor(couleur::kFondPub);
   new WebPanel(Pub0Web);
   new WebPanel(Pub1Web);
 
   Jeu = Make(K::Panel, "Jeu", nullptr, 0, 0, 12000, 8700);
-  Jeu->SetBackColor(0x000000);
+  Jeu->SetBackColor(couleur::kNoir);
   Jeu->SetBevelWidth(0);
 
   SSCartes = Make(K::Panel, "SSCartes", nullptr, 0, -9000, 6015, 5295);
   SSCartes2 = Make(K::Panel, "SSCartes2", nullptr, 0, -9000, 5535, 6015);
   SSAides = Make(K::Panel, "SSAides", nullptr, -960, 9000, 12015, 8655);
-  SSAides->SetBackColor(0x303030);
+  SSAides->SetBackColor(couleur::kFondAides);
   SSAides->SetBevelWidth(4);
   SSAides->SetVisible(false);
 
@@ -122,30 +124,30 @@ void JeuPoker::BuildControls() {
 
   // ---- Title, deck choice, options ----------------------------------------------------------
   JeuTitre = Make(K::Panel, "JeuTitre", Jeu, 0, 0, 3765, 645);
-  JeuTitre->SetBackColor(0x000000);
+  JeuTitre->SetBackColor(couleur::kNoir);
   JeuTitre->SetBevelWidth(2);
   NonConnectéTimer = MakeTimer("NonConnectéTimer", 20000, true);
 
   SSNJokerSélection = Make(K::Panel, "SSNJokerSélection", Jeu, 3765, 0, 1665, 630);
-  SSNJokerSélection->SetBackColor(0x404040);
+  SSNJokerSélection->SetBackColor(couleur::kGrisFoncé);
   NJokerSélection = MakeArray(0, 2, [&](int i) {
     auto* b = Make(K::Button, "NJokerSélection", SSNJokerSélection, 30 + 525 * i, 30, 540, 570, i);
     b->SetCaption(QString::number(52 + i));
-    b->SetBackColor(0x404040);
-    b->SetForeColor(i < 2 ? 0xFFFFFF : 0x00FFFF);
+    b->SetBackColor(couleur::kGrisFoncé);
+    b->SetForeColor(i < 2 ? couleur::kBlanc : couleur::kJaune);
     b->SetFontSpec(kSans, 12, true);
     // The game starts with two jokers: that button is the selected one.
     b->SetBevelWidth(i == 2 ? 0 : 3);
-    b->SetMousePointer(i == 2 ? 12 : 10);
+    b->SetMousePointer(i == 2 ? kInterdit : kFlèche);
     return b;
   });
 
   SSMenu = Make(K::Panel, "SSMenu", Jeu, 5430, 0, 6585, 630);
-  SSMenu->SetBackColor(0x808080);
+  SSMenu->SetBackColor(couleur::kGris);
   auto menuButton = [&](const QString& name, int left, int width, int index = -1) {
     auto* b = Make(K::Button, name, SSMenu, left, 30, width, 570, index);
-    b->SetBackColor(0x808080);
-    b->SetForeColor(0xFFFFFF);
+    b->SetBackColor(couleur::kGris);
+    b->SetForeColor(couleur::kBlanc);
     return b;
   };
   SSMusic = ControlArray<Control>(0, 2);
@@ -171,14 +173,14 @@ void JeuPoker::BuildControls() {
   // Instant dealing is in force at start; the pointer of an option tells whether a click on
   // it will work.
   SSVitesse(1).SetBevelWidth(0);
-  SSVitesse(1).SetMousePointer(12);
-  SSVitesse(0).SetMousePointer(10);
-  ParesseOui->SetMousePointer(12);
-  ParesseNon->SetMousePointer(10);
+  SSVitesse(1).SetMousePointer(kInterdit);
+  SSVitesse(0).SetMousePointer(kFlèche);
+  ParesseOui->SetMousePointer(kInterdit);
+  ParesseNon->SetMousePointer(kFlèche);
   AutoPlay = Make(K::Panel, "AutoPlay", SSMenu, 4200, 30, 660, 570);
   AutoPlay->SetCaption("AUTO");
-  AutoPlay->SetForeColor(0x0000C0);
-  AutoPlay->SetBackColor(0x7A7A7A);
+  AutoPlay->SetForeColor(couleur::kRougeSombre);
+  AutoPlay->SetBackColor(couleur::kGrisRepos);
   AutoPlay->SetBevelWidth(3);
   AutoPlayStop = menuButton("AutoPlayStop", 4845, 660);
   AutoPlayStop->SetCaption("STOP");
@@ -190,7 +192,7 @@ void JeuPoker::BuildControls() {
   SSRecommence->SetFontSpec(kSans, 14, true);
   auto lamp = [&](const QString& name, int left, bool visible, int index = -1) {
     auto* l = Make(K::Label, name, SSMenu, left, 45, 90, 90, index);
-    l->SetBackColor(0x0000FF);
+    l->SetBackColor(couleur::kRouge);
     l->SetVisible(visible);
     return l;
   };
@@ -201,7 +203,7 @@ void JeuPoker::BuildControls() {
 
   // ---- Pay table, probabilities, statistics ---------------------------------------------------
   SSGains = Make(K::Panel, "SSGains", Jeu, 0, 630, 6480, 3465);
-  SSGains->SetBackColor(0x000000);
+  SSGains->SetBackColor(couleur::kNoir);
   SSGains->SetBevelWidth(2);
   static const int rowTop[12] = {2610, 2355, 2100, 1845, 1590, 1335, 1085, 825, 570, 315, 2885, 3135};
   static const char* titles[12] = {
@@ -210,67 +212,67 @@ void JeuPoker::BuildControls() {
   auto row = [&](const QString& name, int i, int left, int width, int height, Long back) {
     auto* l = Make(K::Label, name, SSGains, left, rowTop[i], width, height, i);
     l->SetBackColor(back);
-    l->SetForeColor(0xFFFFFF);
+    l->SetForeColor(couleur::kBlanc);
     l->SetFontSpec(kSans, 9, true);
     return l;
   };
   Maintitre = MakeArray(0, 11, [&](int i) {
-    auto* l = row("Maintitre", i, 60, 2400, 255, 0x000000);
+    auto* l = row("Maintitre", i, 60, 2400, 255, couleur::kNoir);
     l->SetCaption(QString::fromUtf8(titles[i]));
     return l;
   });
   MainLabel = MakeArray(0, 9, [&](int i) {
-    auto* l = row("MainLabel", i, 2460, 615, 255, 0x000000);
+    auto* l = row("MainLabel", i, 2460, 615, 255, couleur::kNoir);
     l->SetAlignment(1);
     return l;
   });
   Pourcentages = MakeArray(0, 11, [&](int i) {
-    auto* l = row("Pourcentages", i, 3075, 1080, 255, 0x404000);
+    auto* l = row("Pourcentages", i, 3075, 1080, 255, couleur::kSarcelle);
     l->SetAlignment(1);
-    if (i == 11) l->SetForeColor(0x0000FF);
+    if (i == 11) l->SetForeColor(couleur::kRouge);
     return l;
   });
   PourcDéc = MakeArray(0, 11, [&](int i) {
-    auto* l = row("PourcDéc", i, 3105, 300, 195, 0x404000);
+    auto* l = row("PourcDéc", i, 3105, 300, 195, couleur::kSarcelle);
     l->SetFontSpec(kSans, 7, true);
     // The whole part of the percentage lies over its column, whose colour shows through:
     // teal while the row is counted, black when it is blank.
     l->SetTransparent(true);
-    if (i == 11) l->SetForeColor(0x0000FF);
+    if (i == 11) l->SetForeColor(couleur::kRouge);
     return l;
   });
   Fractions = MakeArray(0, 11, [&](int i) {
-    auto* l = row("Fractions", i, 4155, 1515, 255, 0x404000);
+    auto* l = row("Fractions", i, 4155, 1515, 255, couleur::kSarcelle);
     l->SetAlignment(1);
-    if (i == 11) l->SetForeColor(0x0000FF);
+    if (i == 11) l->SetForeColor(couleur::kRouge);
     return l;
   });
   Fréquence = MakeArray(0, 9, [&](int i) {
-    auto* l = row("Fréquence", i, 5670, 735, 255, 0x000000);
+    auto* l = row("Fréquence", i, 5670, 735, 255, couleur::kNoir);
     l->SetAlignment(1);
     return l;
   });
   auto title = [&](const QString& name, const QString& text, int left, int width, Long back) {
     auto* l = Make(K::Label, name, SSGains, left, 60, width, 255);
     l->SetCaption(text);
-    l->SetForeColor(0x00C0C0);
+    l->SetForeColor(couleur::kOcre);
     l->SetBackColor(back);
     l->SetFontSpec(kSans, 9, true);
     return l;
   };
-  MainsPayantes = title("MainsPayantes", "MAINS PAYANTES", 60, 2400, 0);
-  Rapport = title("Rapport", "$$$", 2460, 615, 0);
+  MainsPayantes = title("MainsPayantes", "MAINS PAYANTES", 60, 2400, couleur::kNoir);
+  Rapport = title("Rapport", "$$$", 2460, 615, couleur::kNoir);
   Rapport->SetAlignment(1);
-  PourCentLabel = title("PourCentLabel", "%", 3075, 1080, 0x404000);
+  PourCentLabel = title("PourCentLabel", "%", 3075, 1080, couleur::kSarcelle);
   PourCentLabel->SetAlignment(2);
-  UnSur = title("UnSur", "?/3162510", 4155, 1515, 0x404000);
+  UnSur = title("UnSur", "?/3162510", 4155, 1515, couleur::kSarcelle);
   UnSur->SetAlignment(1);
-  FréquenceTitre = title("FréquenceTitre", "STATS", 5670, 735, 0);
+  FréquenceTitre = title("FréquenceTitre", "STATS", 5670, 735, couleur::kNoir);
   FréquenceTitre->SetAlignment(1);
 
   // ---- Credit, winnings, bet and level ---------------------------------------------------------
   SSMises = Make(K::Panel, "SSMises", Jeu, 6465, 630, 2190, 3465);
-  SSMises->SetBackColor(0x202020);
+  SSMises->SetBackColor(couleur::kAnthracite);
   SSMises->SetBevelWidth(2);
   ImageCrédit = Make(K::Image, "ImageCrédit", SSMises, 60, 60, 2070, 780);
   ImageGains = Make(K::Image, "ImageGains", SSMises, 60, 825, 2070, 780);
@@ -303,8 +305,8 @@ void JeuPoker::BuildControls() {
   auto betButton = [&](const QString& name, int left, int top, const QString& text) {
     auto* b = Make(K::Button, name, SSMises, left, top, 405, 375);
     b->SetCaption(text);
-    b->SetBackColor(0x505050);
-    b->SetForeColor(0xFFFFFF);
+    b->SetBackColor(couleur::kFondBoutonsMise);
+    b->SetForeColor(couleur::kBlanc);
     b->SetFontSpec(kSans, 13, true);
     return b;
   };
@@ -315,7 +317,7 @@ void JeuPoker::BuildControls() {
 
   // ---- PLAY ----------------------------------------------------------------------------------
   SSTirage = Make(K::Panel, "SSTirage", Jeu, 6525, 3000, 2085, 1050);
-  SSTirage->SetBackColor(0x707070);
+  SSTirage->SetBackColor(couleur::kFondTirage);
   Tirage = Make(K::Button, "Tirage", SSTirage, 45, 45, 570, 360);
   Jouer = Make(K::Panel, "Jouer", SSTirage, 45, 45, 1980, 960);
   Jouer->SetBevelWidth(0);
@@ -326,35 +328,35 @@ void JeuPoker::BuildControls() {
 
   // ---- Choice of game ----------------------------------------------------------------------------
   SSMenuJeux = Make(K::Panel, "SSMenuJeux", Jeu, 8655, 630, 3360, 2280);
-  SSMenuJeux->SetBackColor(0x404080);
+  SSMenuJeux->SetBackColor(couleur::kFondMenuJeux);
   SSJeuSimple = Make(K::Panel, "SSJeuSimple", SSMenuJeux, 135, 135, 1500, 1500);
-  SSJeuSimple->SetBackColor(0x0000FF);
+  SSJeuSimple->SetBackColor(couleur::kRouge);
   SSJeu3D = Make(K::Panel, "SSJeu3D", SSMenuJeux, 1725, 135, 1500, 1500);
-  SSJeu3D->SetBackColor(0x000000);
+  SSJeu3D->SetBackColor(couleur::kNoir);
   JeuSimple = Make(K::Button, "JeuSimple", SSJeuSimple, 90, 90, 1305, 1305);
   JeuSimple->SetBevelWidth(1);
   Jeu3D = Make(K::Button, "Jeu3D", SSJeu3D, 90, 90, 1305, 1305);
   Jeu3D->SetBevelWidth(7);
   for (auto* b : {JeuSimple, Jeu3D}) {
-    b->SetBackColor(0x006000);
-    b->SetForeColor(0xFFFFFF);
+    b->SetBackColor(couleur::kFondBoutonsJeux);
+    b->SetForeColor(couleur::kBlanc);
   }
   JeuSimpleLabel = Make(K::Label, "JeuSimpleLabel", SSMenuJeux, 270, 1810, 1185, 345);
   JeuSimpleLabel->SetCaption("JEU 1");
   Jeu3DLabel = Make(K::Label, "Jeu3DLabel", SSMenuJeux, 1890, 1810, 1185, 345);
   Jeu3DLabel->SetCaption("JEU 2");
   for (auto* l : {JeuSimpleLabel, Jeu3DLabel}) {
-    l->SetBackColor(0x404080);
+    l->SetBackColor(couleur::kFondMenuJeux);
     // The label of the game in force is white, the other grey.
-    l->SetForeColor(l == JeuSimpleLabel ? 0xFFFFFF : 0x808080);
+    l->SetForeColor(l == JeuSimpleLabel ? couleur::kBlanc : couleur::kGris);
     l->SetAlignment(2);
     l->SetFontSpec(kSans, 11, true);
   }
 
   // ---- Hints -----------------------------------------------------------------------------------
   SSMessages = Make(K::Panel, "SSMessages", Jeu, 8655, 2910, 3345, 1170);
-  SSMessages->SetBackColor(0x000000);
-  SSMessages->SetForeColor(0x0000FF);
+  SSMessages->SetBackColor(couleur::kNoir);
+  SSMessages->SetForeColor(couleur::kRouge);
   SSMessages->SetFontSpec(kSans, 9, true);
   CartesMains = MakeArray(0, 4, [&](int i) {
     auto* b = Make(K::Button, "CartesMains", SSMessages, 105 + 630 * i, 90, 600, 975, i);
@@ -367,15 +369,15 @@ void JeuPoker::BuildControls() {
 
   // ---- Play area of JEU 1 --------------------------------------------------------------------------
   SSAireJeu = Make(K::Panel, "SSAireJeu", Jeu, 0, 4080, 12000, 3795);
-  SSAireJeu->SetBackColor(0x004000);
+  SSAireJeu->SetBackColor(couleur::kTapis);
   SSAireJeu->SetBevelWidth(2);
   static const int dealLeft[5] = {645, 2975, 5295, 7620, 9945};
   static const int jouezLeft[5] = {195, 2520, 4845, 7170, 9495};
   Jouez = MakeArray(0, 4, [&](int i) {
     auto* p = Make(K::Panel, "Jouez", SSAireJeu, jouezLeft[i], 45, 2325, 510, i);
     p->SetCaption("JOUEZ");
-    p->SetBackColor(0x808000);
-    p->SetForeColor(0xFFFFFF);
+    p->SetBackColor(couleur::kJouezFond);
+    p->SetForeColor(couleur::kBlanc);
     p->SetBevelWidth(2);
     p->SetFontSpec(kSans, 12, true);
     return p;
@@ -385,23 +387,23 @@ void JeuPoker::BuildControls() {
       MakeArray(0, 4, [&](int i) { return Make(K::Image, "ImageConseils", &Jouez(i), 1800, -15, 480, 480, i); });
   Deal = MakeArray(0, 4, [&](int i) {
     auto* b = Make(K::Button, "Deal", SSAireJeu, dealLeft[i], 1065, 1395, 2070, i);
-    b->SetBackColor(0x004000);
+    b->SetBackColor(couleur::kTapis);
     b->SetBevelWidth(2);
     return b;
   });
   Doubler = Make(K::Panel, "Doubler", SSAireJeu, 3690, 45, 4650, 510);
-  Doubler->SetBackColor(0x004080);
+  Doubler->SetBackColor(couleur::kFondDoubler);
   Doubler->SetVisible(false);
   Quitte1X5 = Make(K::Button, "Quitte1X5", Doubler, 300, 90, 1800, 330);
   Quitte1X5->SetCaption("QUITTE");
   Double1X5 = Make(K::Button, "Double1X5", Doubler, 2580, 90, 1800, 330);
   Double1X5->SetCaption("DOUBLE");
-  Double1X5->SetForeColor(0x0000FF);
+  Double1X5->SetForeColor(couleur::kRouge);
   MusicTimer = MakeTimer("MusicTimer", 1000, true);
 
   // ---- Play area of JEU 2 --------------------------------------------------------------------------
   SSAireJeu5 = Make(K::Panel, "SSAireJeu5", Jeu, 0, 630, 6465, 8100);
-  SSAireJeu5->SetBackColor(0x004000);
+  SSAireJeu5->SetBackColor(couleur::kTapis);
   SSAireJeu5->SetBevelWidth(2);
   SSAireJeu5->SetVisible(false);
   static const int colLeft[5] = {315, 1320, 2325, 3330, 4335};
@@ -409,19 +411,19 @@ void JeuPoker::BuildControls() {
   Deal2 = MakeArray(0, 24, [&](int i) {
     const int left = i == 0 ? 335 : colLeft[i % 5];
     auto* b = Make(K::Button, "Deal2", SSAireJeu5, left, rowTop5[i / 5], 975, 1305, i);
-    b->SetBackColor(0x004000);
+    b->SetBackColor(couleur::kTapis);
     b->SetBevelWidth(1);
     return b;
   });
   Jouez5 = Make(K::Panel, "Jouez5", SSAireJeu5, 315, 90, 3300, 420);
   Jouez5->SetCaption("JOUEZ");
-  Jouez5->SetBackColor(0x808000);
-  Jouez5->SetForeColor(0xFFFFFF);
+  Jouez5->SetBackColor(couleur::kJouezFond);
+  Jouez5->SetForeColor(couleur::kBlanc);
   SSConseils5 = Make(K::Panel, "SSConseils5", SSAireJeu5, 315, 90, 3300, 420);
   SSConseils5->SetVisible(false);
   Conseils5 = Make(K::Button, "Conseils5", SSConseils5, 45, 45, 1590, 330);
   Conseils5->SetCaption("CONSEILS");
-  Conseils5->SetForeColor(0x0000FF);
+  Conseils5->SetForeColor(couleur::kRouge);
   AnnuleConseils5 = Make(K::Button, "AnnuleConseils5", SSConseils5, 1905, 45, 1350, 330);
   AnnuleConseils5->SetCaption("ANNULE");
   Image6 = Make(K::Image, "Image6", SSConseils5, 1530, -60, 480, 480);
@@ -431,7 +433,7 @@ void JeuPoker::BuildControls() {
   Quitte5X5->SetCaption("QUITTE");
   Double5X5 = Make(K::Button, "Double5X5", Doubler5, 1845, 45, 1410, 330);
   Double5X5->SetCaption("DOUBLE");
-  Double5X5->SetForeColor(0x0000FF);
+  Double5X5->SetForeColor(couleur::kRouge);
 
   struct LineSpec {
     int mainsLeft, mainsTop, gainsTop, temLeft, temTop, x1, y1, x2, y2;
@@ -447,7 +449,7 @@ void JeuPoker::BuildControls() {
   UnADouzeLine = MakeArray(0, 11, [&](int i) {
     auto* l = Make(K::Line, "UnADouzeLine", SSAireJeu5, 0, 0, 0, 0, i);
     l->SetLine(lines[i].x1, lines[i].y1, lines[i].x2, lines[i].y2);
-    l->SetForeColor(0x00FFFF);
+    l->SetForeColor(couleur::kJaune);
     l->SetVisible(i == 0);
     return l;
   });
@@ -455,15 +457,15 @@ void JeuPoker::BuildControls() {
   Gains5 = ControlArray<Control>(0, 12);
   for (int i = 0; i < 12; ++i) {
     auto* m = Make(K::Label, "Mains5", SSAireJeu5, lines[i].mainsLeft, lines[i].mainsTop, 960, 255, i);
-    m->SetForeColor(0xFFFFFF);
-    m->SetBackColor(0xFF0000);
+    m->SetForeColor(couleur::kBlanc);
+    m->SetBackColor(couleur::kBleu);
     m->SetAlignment(2);
     m->SetFontSpec(kSans, 8, true);
     m->SetVisible(i == 0);
     Mains5.Set(i, m);
     auto* g = Make(K::Label, "Gains5", SSAireJeu5, lines[i].mainsLeft, lines[i].gainsTop, 960, 255, i);
-    g->SetForeColor(0x00FFFF);
-    g->SetBackColor(0x605000);
+    g->SetForeColor(couleur::kJaune);
+    g->SetBackColor(couleur::kFondGains5);
     g->SetAlignment(2);
     g->SetFontSpec(kSans, 8, true);
     g->SetVisible(i == 0);
@@ -471,14 +473,14 @@ void JeuPoker::BuildControls() {
   }
   auto* m12 = Make(K::Label, "Mains5", SSAireJeu5, 3645, 90, 900, 405, 12);
   m12->SetCaption("GAINS");
-  m12->SetBackColor(0x605000);
-  m12->SetForeColor(0x80FFFF);
+  m12->SetBackColor(couleur::kFondGains5);
+  m12->SetForeColor(couleur::kJaunePâle);
   m12->SetAlignment(2);
   m12->SetFontSpec(kSerif, 15, true);
   Mains5.Set(12, m12);
   auto* g12 = Make(K::Label, "Gains5", SSAireJeu5, 4545, 90, 825, 405, 12);
-  g12->SetBackColor(0x000000);
-  g12->SetForeColor(0xFFFFFF);
+  g12->SetBackColor(couleur::kNoir);
+  g12->SetForeColor(couleur::kBlanc);
   g12->SetAlignment(2);
   g12->SetFontSpec(kSerif, 15, true);
   Gains5.Set(12, g12);
@@ -487,30 +489,30 @@ void JeuPoker::BuildControls() {
         Make(K::Label, "UnADouzeTémoin", SSAireJeu5, lines[i].temLeft, lines[i].temTop, i < 9 ? 195 : 360, 240, i);
     l->SetCaption(QString::number(i + 1));
     l->SetFontSpec(kMono, 12, true);
-    l->SetBackColor(i == 0 ? 0x00FFFF : 0x808080);
-    l->SetForeColor(0x000000);
+    l->SetBackColor(i == 0 ? couleur::kJaune : couleur::kGris);
+    l->SetForeColor(couleur::kNoir);
     return l;
   });
 
   // ---- Alerts ------------------------------------------------------------------------------------
   SSAlertes = Make(K::Panel, "SSAlertes", Jeu, 6465, 7890, 5535, 825);
-  SSAlertes->SetBackColor(0x000000);
-  SSAlertes->SetForeColor(0x00FFFF);
+  SSAlertes->SetBackColor(couleur::kNoir);
+  SSAlertes->SetForeColor(couleur::kJaune);
   SSAlertes->SetFontSpec(kSerif, 12, true);
 
   // ---- No-connection notice --------------------------------------------------------------------------
   NonConnectéPic = Make(K::PictureBox, "NonConnectéPic", Jeu, 5160, 2280, 7095, 3615);
-  NonConnectéPic->SetBackColor(0x202020);
+  NonConnectéPic->SetBackColor(couleur::kAnthracite);
   NonConnectéPic->SetVisible(false);
   LogoFondPic = Make(K::PictureBox, "LogoFondPic", NonConnectéPic, 120, 120, 3000, 3000);
-  LogoFondPic->SetBackColor(0x000000);
+  LogoFondPic->SetBackColor(couleur::kNoir);
   LogoWeb = Make(K::PictureBox, "LogoWeb", LogoFondPic, 0, 0, 3000, 3000);
-  LogoWeb->SetBackColor(0x000000);
+  LogoWeb->SetBackColor(couleur::kNoir);
   new WebPanel(LogoWeb);
   NonConnectéLbl = Make(K::Label, "NonConnectéLbl", NonConnectéPic, 3300, 600, 3600, 1500);
   NonConnectéLbl->SetCaption(QString::fromUtf8("Vous devez être connecté à internet pour utiliser ce logiciel"));
-  NonConnectéLbl->SetBackColor(0x202020);
-  NonConnectéLbl->SetForeColor(0xFFFFFF);
+  NonConnectéLbl->SetBackColor(couleur::kAnthracite);
+  NonConnectéLbl->SetForeColor(couleur::kBlanc);
   NonConnectéLbl->SetFontSpec(kSans, 11, true);
   NonConnectéCmd = Make(K::Button, "NonConnectéCmd", NonConnectéPic, 4500, 2600, 1200, 600);
   NonConnectéCmd->SetCaption("OK");
@@ -520,8 +522,8 @@ void JeuPoker::BuildControls() {
   static const int aidesHeight[6] = {300, 1755, 1275, 555, 1275, 795};
   Aides = MakeArray(0, 5, [&](int i) {
     auto* l = Make(K::Label, "Aides", SSAides, 150, aidesTop[i], 11605, aidesHeight[i], i);
-    l->SetBackColor(0x303030);
-    l->SetForeColor(i == 0 ? 0x00FFFF : 0xFFFFFF);
+    l->SetBackColor(couleur::kFondAides);
+    l->SetForeColor(i == 0 ? couleur::kJaune : couleur::kBlanc);
     l->SetFontSpec(kSans, i == 0 ? 12 : 9, true);
     return l;
   });

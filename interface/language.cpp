@@ -2,12 +2,8 @@
 #include <QStringList>
 #include <span>
 
+#include "core/table_facts.h"
 #include "interface/JeuPoker.h"
-
-namespace {
-// Langue 0 or 2 is English, anything else French.
-bool English(Byte langue) { return langue == 0 || langue == 2; }
-}  // namespace
 
 void JeuPoker::RemplitNomsValeurs() {
   static const char* const kRangsFr[13] = {"2", "3", "4", "5", "6", "7", "8", "9", "10", "VALET", "DAME", "ROI", "AS"};
@@ -15,7 +11,7 @@ void JeuPoker::RemplitNomsValeurs() {
                                            "9", "10", "JACK", "QUEEN", "KING", "ACE"};
   static const char* const kCouleursFr[4] = {" de Trèfle", " de Carreau", " de Coeur", " de Pique"};
   static const char* const kCouleursEn[4] = {" of Clubs", " of Diamonds", " of Hearts", " of Spades"};
-  const bool english = English(Langue);
+  const bool english = Anglais(Langue);
   for (int s = 0; s <= 3; ++s) NomsCouleurs(s) = QString::fromUtf8(english ? kCouleursEn[s] : kCouleursFr[s]);
   for (int s = 0; s <= 3; ++s)
     for (int r = 0; r <= 12; ++r)
@@ -27,7 +23,7 @@ void JeuPoker::RemplitNomsMains() {
                                       "CARRE",   "Q.F.",     "Q.F.R.", "POKER",  "RIEN"};
   static const char* const kEn[11] = {"1 PAIR",    "2 PAIRS", "3 of KIND", "Straight",  "FLUSH",  "FULL",
                                       "4 of KIND", "S.FLUSH", "R.FLUSH",   "5 of KIND", "NOTHING"};
-  const bool english = English(Langue);
+  const bool english = Anglais(Langue);
   for (int i = 0; i <= 10; ++i) NomsMains(i) = QString::fromUtf8(english ? kEn[i] : kFr[i]);
 }
 
@@ -242,47 +238,46 @@ void JeuPoker::TraduitAlerte(bool versAnglais) {
 }
 
 void JeuPoker::ModifieLangue() {
-  const bool anglais = English(Langue);
-  // 1. The language buttons and their lamps.
+  const bool anglais = Anglais(Langue);
+  // The flag of the language in force is pressed, refuses the pointer and has its lamp lit;
+  // the other is raised, works and is unlit.
   const int choisi = anglais ? 0 : 1;
-  SSLangue(choisi).SetMousePointer(12);
+  SSLangue(choisi).SetMousePointer(kInterdit);
   SSLangue(choisi).SetBevelWidth(0);
-  SSLangue(1 - choisi).SetMousePointer(10);
+  SSLangue(1 - choisi).SetMousePointer(kFlèche);
   SSLangue(1 - choisi).SetBevelWidth(3);
   PSSlangue(choisi).SetVisible(true);
   PSSlangue(1 - choisi).SetVisible(false);
-  // 2. Titles and the PLAY face, drawn once for each language.
+  // The GAINS and MISE titles and the PLAY face, drawn once for each language.
   const int image = anglais ? 2 : 1;
   GainsImage(0).SetPicture(GainsImage(image).GetPicture());
   MisesImage(0).SetPicture(MisesImage(image).GetPicture());
   JouerImage(0).SetPicture(JouerImage(image).GetPicture());
-  // 3. PLAY, and each hold word by what it says now.
+  // PLAY, and each word on the hold panels turned into its twin in the new language.
   Jouer->SetCaption(anglais ? QStringLiteral("PLAY") : QStringLiteral("JOUER"));
-  static const char* const kMotsFr[3] = {"JOUEZ", "GARDER", "JETER"};
-  static const char* const kMotsEn[3] = {"PLAY", "HOLD", "REJECT"};
   for (int i = 0; i <= 4; ++i) {
-    for (int m = 0; m < 3; ++m) {
-      if (Jouez(i).Caption() == QLatin1String(anglais ? kMotsFr[m] : kMotsEn[m])) {
-        Jouez(i).SetCaption(QString::fromLatin1(anglais ? kMotsEn[m] : kMotsFr[m]));
+    for (const MotJouez& mot : {kMotJouez, kMotGarder, kMotJeter}) {
+      if (Jouez(i).Caption() == Mot(mot, !anglais)) {
+        Jouez(i).SetCaption(Mot(mot, anglais));
         break;
       }
     }
   }
-  // 4.
+  // The fixed captions of both games' buttons.
   Quitte1X5->SetCaption(anglais ? QStringLiteral("QUIT") : QStringLiteral("QUITTE"));
   Double1X5->SetCaption(QStringLiteral("DOUBLE"));
-  Jouez5->SetCaption(anglais ? QStringLiteral("PLAY") : QStringLiteral("JOUEZ"));
+  Jouez5->SetCaption(Mot(kMotJouez, anglais));
   Quitte5X5->SetCaption(anglais ? QStringLiteral("QUIT") : QStringLiteral("QUITTE"));
   Double5X5->SetCaption(QStringLiteral("DOUBLE"));
   Conseils5->SetCaption(anglais ? QStringLiteral("HELP") : QStringLiteral("CONSEILS"));
   AnnuleConseils5->SetCaption(anglais ? QStringLiteral("CANCEL") : QStringLiteral("ANNULE"));
   Mains5(12).SetCaption(QStringLiteral("GAINS"));
-  // 5-7. The name tables, and the names of the lines on the grid.
+  // The hand and card names, and the names shown on the grid's lines in play.
   RemplitNomsMains();
   for (int ligne = 1; ligne <= Niveau; ++ligne)
     if (!Mains5(ligne - 1).Caption().isEmpty()) Mains5(ligne - 1).SetCaption(NomsMains(MainsLignes(ligne - 1)));
   RemplitNomsValeurs();
-  // 8. The pay table's titles.
+  // The pay table's titles.
   static const char* const kTitresFr[12] = {
       " 1 PAIRE ROI OU AS",   " 2 PAIRES", " BRELAN", " QUINTE", " COULEUR", " FULL", " CARRE", " QUINTE FLUSH",
       " QUINTE FLUSH ROYALE", " POKER",    " RIEN",   " MIEUX"};
@@ -291,7 +286,7 @@ void JeuPoker::ModifieLangue() {
       " STRAIGHT FLUSH",          " ROYAL FLUSH", " 5 OF KIND", " NOTHING",  " BETTER HAND"};
   MainsPayantes->SetCaption(anglais ? QStringLiteral("WINNER HANDS") : QStringLiteral("MAINS PAYANTES"));
   for (int i = 0; i <= 11; ++i) Maintitre(i).SetCaption(QString::fromUtf8(anglais ? kTitresEn[i] : kTitresFr[i]));
-  // 9-11.
+  // The half of the hint table in use, the alert line and the rules page follow.
   LangueVar = anglais ? 100 : 0;
   TraduitAlerte(anglais);
   ConstruitAides(anglais);

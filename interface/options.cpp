@@ -1,17 +1,9 @@
 // The buttons of the game's frame: the choice between JEU 1 and JEU 2, the number of jokers,
 // a new game, the dealing speed, the rules page, and the blinking title.
+#include "core/colours.h"
+#include "core/table_facts.h"
 #include "interface/JeuPoker.h"
 #include "services/platform.h"
-
-namespace {
-constexpr int kFlèche = 10;
-constexpr int kInterdit = 12;
-constexpr Long kBlanc = 0xFFFFFF;
-constexpr Long kLabelÉteint = 0x808080;
-constexpr Long kCadreChoisi = 0x0000FF;
-constexpr Long kJouezFond = 0x808000;
-constexpr int kDos = 54;
-}  // namespace
 
 bool JeuPoker::ChangementRefusé() {
   // The deal must be over and its winnings collected or risked; a lost game stays as it is.
@@ -23,21 +15,20 @@ bool JeuPoker::ChangementRefusé() {
 }
 
 void JeuPoker::JouezÀJouer() {
-  const bool anglais = Langue == 0 || Langue == 2;
   for (int i = 0; i <= 4; ++i) {
-    Jouez(i).SetBackColor(kJouezFond);
-    Jouez(i).SetCaption(anglais ? QStringLiteral("PLAY") : QStringLiteral("JOUEZ"));
+    Jouez(i).SetBackColor(couleur::kJouezFond);
+    Jouez(i).SetCaption(Mot(kMotJouez, Anglais(Langue)));
   }
 }
 
 void JeuPoker::StatistiquesAuRepos() {
   // A highlighted pay-table row reads 255 on its back.
   for (int i = 0; i <= 9; ++i) {
-    if (MainLabel(i).BackColor() == 255) {
-      Maintitre(i).SetForeColor(kBlanc);
-      MainLabel(i).SetForeColor(kBlanc);
-      Maintitre(i).SetBackColor(0);
-      MainLabel(i).SetBackColor(0);
+    if (MainLabel(i).BackColor() == couleur::kRouge) {
+      Maintitre(i).SetForeColor(couleur::kBlanc);
+      MainLabel(i).SetForeColor(couleur::kBlanc);
+      Maintitre(i).SetBackColor(couleur::kNoir);
+      MainLabel(i).SetBackColor(couleur::kNoir);
     }
   }
   AfficheStatistiquesRepos();
@@ -50,10 +41,10 @@ void JeuPoker::PlaceJeux(bool grille) {
   choisi.SetMousePointer(kInterdit);
   autre.SetBevelWidth(7);
   autre.SetMousePointer(kFlèche);
-  (grille ? SSJeu3D : SSJeuSimple)->SetBackColor(kCadreChoisi);
-  (grille ? SSJeuSimple : SSJeu3D)->SetBackColor(0);
-  (grille ? Jeu3DLabel : JeuSimpleLabel)->SetForeColor(kBlanc);
-  (grille ? JeuSimpleLabel : Jeu3DLabel)->SetForeColor(kLabelÉteint);
+  (grille ? SSJeu3D : SSJeuSimple)->SetBackColor(couleur::kRouge);
+  (grille ? SSJeuSimple : SSJeu3D)->SetBackColor(couleur::kNoir);
+  (grille ? Jeu3DLabel : JeuSimpleLabel)->SetForeColor(couleur::kBlanc);
+  (grille ? JeuSimpleLabel : Jeu3DLabel)->SetForeColor(couleur::kGris);
 
   // The panels of the pay table and the odds: beside the grid only the tally stays in view.
   SSGains->SetVisible(false);

@@ -2,12 +2,12 @@
 // two-language titles and PLAY faces, the title, the music icons) and the pictures that
 // stand on the screen from the start (row backgrounds and titles, option icons, the choice
 // of game, the card pointer).
-#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QPainter>
 
 #include "interface/JeuPoker.h"
 #include "interface/pictures_art.h"
+#include "services/measurement.h"
 
 Picture JeuPoker::StorePicture(const QString& name, const QPixmap& pixmap) {
   pictures_.push_back(std::make_unique<StoredPicture>(name, pixmap));
@@ -20,9 +20,7 @@ Picture JeuPoker::StorePicture(const QString& name, std::function<QPixmap()> dra
 }
 
 void JeuPoker::BuildPictures() {
-  QElapsedTimer clock;
-  clock.start();
-  const double cpuStart = pics::ThreadCpuSeconds();
+  const PicturesBuildTimer timer;
   // Rendered at the density of the sharpest screen, shown at the controls' own sizes.
   const qreal dpr = qGuiApp ? qGuiApp->devicePixelRatio() : 1.0;
   // The cards render on a worker thread, started before the controls were built; the other
@@ -115,6 +113,4 @@ void JeuPoker::BuildPictures() {
     Cartes(code).SetPicture(StorePicture(Cartes(code).FullName(), [faces, code] { return faces->Face(code); }));
   for (int code = Cartes2.Low(); code <= Cartes2.High(); ++code)
     Cartes2(code).SetPicture(StorePicture(Cartes2(code).FullName(), [faces, code] { return faces->Small(code); }));
-
-  pics::SetLastBuildTime({static_cast<double>(clock.nsecsElapsed()) / 1e9, pics::ThreadCpuSeconds() - cpuStart});
 }

@@ -8,6 +8,7 @@
 #include <thread>
 
 #include "core/evaluation.h"
+#include "core/pay_tables.h"
 
 namespace odds {
 
@@ -62,14 +63,8 @@ std::uint32_t ColexIndex(const Byte* ascending, int size) {
 }
 
 PayTable PayTableClassic(int jokers) {
-  // The multipliers of the classic pay tables for 0, 1 and 2 jokers, classes 0..9.
-  static constexpr std::int64_t kPay[3][10] = {
-      {1, 2, 5, 7, 10, 30, 100, 250, 750, 1000},
-      {1, 2, 4, 5, 7, 12, 40, 100, 500, 1000},
-      {1, 2, 3, 4, 5, 7, 25, 70, 300, 750},
-  };
   PayTable t{};
-  for (int c = 0; c < 10; ++c) t[c] = kPay[std::clamp(jokers, 0, 2)][c];
+  for (int c = 0; c < 10; ++c) t[c] = GainClassique(jokers, c);
   return t;
 }
 

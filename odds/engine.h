@@ -11,6 +11,17 @@
 // where T(X) counts the hands of the whole deck that contain X, class by class. T is a table
 // of every subset of up to five cards of the deck, built once from the class of every hand
 // of the deck; one deal then costs 32 look-ups and a Möbius transform over five bits.
+//
+// Terms: cards, ranks and classes are those of core/evaluation.h; a set of cards is indexed by
+// its colexicographic rank among the sets of its size (ColexIndex); a hold is a 5-bit mask of
+// the positions (or, for a deal given ascending, the cards) kept; EV is the pay of a hold's
+// draws for one unit of bet, averaged over its draws.
+// Cache: GameClassifier is built once per process, on first use (a static, thread-safe
+// initialisation), and then only read. Tables are built by the caller (Tables::ForGame) and
+// are read-only afterwards, so any number of threads may share them.
+// Threads: building the classes and the tables, AnalyseHandDirect and ComputeReturn split
+// their work over plain std::threads (the machine's cores, or the count given) and join them
+// before returning; ComputeReturn's `progress` runs on the calling thread.
 #pragma once
 
 #include <array>

@@ -3,12 +3,27 @@
 // and the captions of the panel.
 #include <cmath>
 
+#include "core/colours.h"
 #include "interface/JeuPoker.h"
 #include "interface/bind.h"
 
 namespace {
-constexpr Long kSarcelle = 0x404000;  // dark teal of the percentage and count columns
+// Sorts clés(0..n-1) in ascending order by exchanges of neighbours, so equal values keep their
+// order; `suite`, when given, has its entries exchanged along with the keys.
+void TriÀBulles(vb::Array<Byte, 0, 4>& clés, int n, vb::Array<Byte, 0, 4>* suite = nullptr) {
+  bool échange = true;
+  while (échange) {
+    échange = false;
+    for (int i = 0; i + 1 < n; ++i) {
+      if (clés(i + 1) < clés(i)) {
+        std::swap(clés(i), clés(i + 1));
+        if (suite) std::swap((*suite)(i), (*suite)(i + 1));
+        échange = true;
+      }
+    }
+  }
 }
+}  // namespace
 
 void JeuPoker::Probabilités() {
   if (NbTirées == 10) {
@@ -21,7 +36,7 @@ void JeuPoker::Probabilités() {
 
 void JeuPoker::CompteProbabilités() {
   // The hold word by language; any other caption counts as rejected.
-  const QString garder = (Langue == 0 || Langue == 2) ? QStringLiteral("HOLD") : QStringLiteral("GARDER");
+  const QString garder = MotCarteGardée();
 
   NbGardées = 0;
   NbRejetées = 0;
@@ -84,32 +99,11 @@ void JeuPoker::CompteProbabilités() {
   // Ranks in place of natural codes, sorted; jokers keep their codes and so stand last.
   for (int i = 0; i < NbRejetées; ++i)
     if (RejetéesCodes(i) < 52) RejetéesCodes(i) = RejetéesCodes(i) % 13;
-  if (NbRejetées >= 2) {
-    bool échange = true;
-    while (échange) {
-      échange = false;
-      for (int i = 0; i + 1 < NbRejetées; ++i) {
-        if (RejetéesCodes(i + 1) < RejetéesCodes(i)) {
-          std::swap(RejetéesCodes(i), RejetéesCodes(i + 1));
-          échange = true;
-        }
-      }
-    }
-  }
+  if (NbRejetées >= 2) TriÀBulles(RejetéesCodes, NbRejetées);
   if (NbGardées >= 1 && NbGardées <= 4) {
     for (int i = 0; i < NbGardées; ++i)
       if (Gardées(i) < 52) Gardées(i) = Gardées(i) % 13;
-    bool échange = true;
-    while (échange) {
-      échange = false;
-      for (int i = 0; i + 1 < NbGardées; ++i) {
-        if (Gardées(i + 1) < Gardées(i)) {
-          std::swap(Gardées(i), Gardées(i + 1));
-          std::swap(CouleursGardées(i), CouleursGardées(i + 1));
-          échange = true;
-        }
-      }
-    }
+    TriÀBulles(Gardées, NbGardées, &CouleursGardées);
   }
 
   ProbCouleur();
@@ -164,8 +158,8 @@ void JeuPoker::AfficheProbabilités() {
   for (int i = 0; i <= 11; ++i) {
     if (i == 9 && NbJokers == 0) continue;
     const Long n = Réalisations(i);
-    Pourcentages(i).SetBackColor(n < 1 ? 0 : kSarcelle);
-    Fractions(i).SetBackColor(n < 1 ? 0 : kSarcelle);
+    Pourcentages(i).SetBackColor(n < 1 ? couleur::kNoir : couleur::kSarcelle);
+    Fractions(i).SetBackColor(n < 1 ? couleur::kNoir : couleur::kSarcelle);
 
     // The percentage is cut, never rounded, after six decimals.
     const double p = std::floor(100000000.0 * n / static_cast<double>(TotalTirages)) / 1000000.0;
@@ -201,8 +195,8 @@ void JeuPoker::EffaceProbabilités() {
     PourcDéc(i).SetCaption(QString());
     Pourcentages(i).SetCaption(QString());
     Fractions(i).SetCaption(QString());
-    Pourcentages(i).SetBackColor(0);
-    Fractions(i).SetBackColor(0);
+    Pourcentages(i).SetBackColor(couleur::kNoir);
+    Fractions(i).SetBackColor(couleur::kNoir);
   }
 }
 

@@ -5,7 +5,7 @@
 
 void JeuPoker::ProbCouleur() {
   CouleurPossible = false;
-  const QString garder = (Langue == 0 || Langue == 2) ? QStringLiteral("HOLD") : QStringLiteral("GARDER");
+  const QString garder = MotCarteGardée();
 
   // n cards of the suit can still come: its natural cards off the table and the jokers
   // off the table (every table joker counts as a table card of the suit).
@@ -14,6 +14,7 @@ void JeuPoker::ProbCouleur() {
       NbGardées != 0 && !(NbGardées == 1 && NbJokersGardés == 1) && !(NbGardées == 2 && NbJokersGardés == 2);
 
   if (couleurFixée) {
+    // A natural card held fixes the suit: the first suit that holds every held card.
     for (int b = 0; b <= 39; b += 13) {
       int gardées = 0;
       for (int i = 0; i <= 4; ++i)
@@ -27,11 +28,14 @@ void JeuPoker::ProbCouleur() {
         break;
       }
     }
+    // Natural cards of two suits held: no flush.
     if (!CouleurPossible) return;
     NbMêmeCouleur = vb::CByte(13 + NbJokers - NbMêmeCouleur);
     const double n = NbMêmeCouleur;
+    // The cards to draw all come from the n of the suit: C(n, 5 - held).
     switch (NbGardées) {
       case 5:
+        // Five held: the hand itself, when it is a flush.
         if (RangMain == 4) Réalisations(4) = 1;
         break;
       case 4: Réalisations(4) = vb::CLng(std::llround(n)); break;
@@ -52,6 +56,7 @@ void JeuPoker::ProbCouleur() {
       if (dansCouleur(CartesTirage(i), b)) ++compte;
     NbMêmeCouleur = vb::CByte(compte);
     const double n = 13 + NbJokers - NbMêmeCouleur;
+    // C(n, 5 - held) again, the held jokers being of every suit.
     if (NbGardées == 2)
       total += n * (n - 1) / 2 * (n - 2) / 3;
     else if (NbGardées == 1)
@@ -64,6 +69,7 @@ void JeuPoker::ProbCouleur() {
 
 void JeuPoker::ProbPoker() {
   if (NbGardées == 5) {
+    // Five held: the hand itself, when it is five of a kind.
     if (RangMain == 9) Réalisations(9) = 1;
     return;
   }
@@ -86,23 +92,28 @@ void JeuPoker::ProbPoker() {
   const int g2 = NbGardées >= 3 ? Gardées(2) : 0;
   const int g3 = NbGardées >= 4 ? Gardées(3) : 0;
   switch (NbGardées) {
+    // Nothing held: every rank.
     case 0: tous(); break;
     case 1:
+      // One card: its rank, or every rank for a joker.
       if (g0 < 52)
         rang(g0);
       else
         tous();
       break;
     case 2:
+      // Both jokers: every rank; a pair, or a natural and a joker: that rank.
       if (g0 > 51)
         tous();
       else if (g0 == g1 || (g1 > 51 && g0 < 52))
         rang(g0);
       break;
     case 3:
+      // Three of a rank, a pair and a joker, or a natural and both jokers: that rank.
       if (g0 == g2 || (g0 == g1 && g2 > 51) || g1 > 51) rang(g0);
       break;
     case 4:
+      // Four of a rank, three and a joker, or a pair and both jokers: that rank.
       if (g0 == g3 || (g0 == g2 && g3 > 51) || (g0 == g1 && g2 > 51)) rang(g0);
       break;
     default: break;

@@ -35,6 +35,7 @@ long long Poids(int x, int hi, long long w0, long long w1, long long w2) {
 
 void JeuPoker::ProbCarré() {
   if (NbGardées == 5) {
+    // Five held: the hand itself, when it is four of a kind.
     if (RangMain == 6) Réalisations(6) = 1;
     return;
   }
@@ -50,6 +51,7 @@ void JeuPoker::ProbCarré() {
   if (H == 4) {
     for (int v = 0; v <= 12; ++v) {
       if (GardéesValeur(v) + K == 4) {
+        // Four of a rank held, jokers among them: every draw but five of a kind.
         // Every draw but one that makes five of a kind.
         const int r = R(v);
         Réalisations(6) = vb::CLng(r == 2 ? T - 7 : r == 1 ? T - 6 : r == 0 ? T - 5 : 0);
@@ -59,15 +61,19 @@ void JeuPoker::ProbCarré() {
   }
 
   if (H == 0) {
+    // Nothing held: four of a rank, jokers among them, and a card of another rank.
     for (int v = 0; v <= 12; ++v) total += E(v) * Poids(R(v), 6, 15, 5, 1);
   } else if (H == 1 && K == 0) {
+    // A natural: three more of its rank and another card, or four of another rank.
     const int a = t.rangs[0];
     total += E(a) * Poids(R(a), 5, 10, 6, 1);
     for (int v = 0; v <= 12; ++v)
       if (v != a) total += Poids(R(v), 6, 15, 5, 1);
   } else if (H == 1 && K == 1) {
+    // A joker: three more of a rank and a card of another.
     for (int v = 0; v <= 12; ++v) total += E(v) * Poids(R(v), 5, 10, 5, 1);
   } else if (H == 2 && K == 0) {
+    // Two ranks: three more of either; a pair: two more of it and another card.
     if (t.n == 2) {
       for (int i = 0; i < 2; ++i) total += Poids(R(t.rangs[i]), 5, 10, 4, 1);
     } else {
@@ -75,13 +81,17 @@ void JeuPoker::ProbCarré() {
       total += E(a) * Poids(R(a), 4, 6, 3, 1);
     }
   } else if (H == 2 && K == 1) {
+    // A natural and a joker: two more of its rank and another card, or three of another rank.
     const int a = t.rangs[0];
     total += E(a) * Poids(R(a), 4, 6, 3, 1);
     for (int v = 0; v <= 12; ++v)
       if (v != a) total += Poids(R(v) - J, 4, 10, 4, 1);
   } else if (H == 2 && K == 2) {
+    // Both jokers: two of a rank and a card of another.
     for (int v = 0; v <= 12; ++v) total += E(v) * Poids(R(v), 4, 6, 3, 1);
   } else if (H == 3 && K == 0) {
+    // Three naturals: a pair grows by two, three of a rank by one and another card; three
+    // ranks make nothing.
     if (t.n == 2) {
       // A pair and another card: the pair can grow to four.
       const int a = t.nombres[0] == 2 ? t.rangs[0] : t.rangs[1];
@@ -91,6 +101,7 @@ void JeuPoker::ProbCarré() {
       total += E(a) * Poids(R(a), 3, 3, 2, 1);
     }
   } else if (H == 3 && K == 1) {
+    // Two ranks and a joker: two more of either; a pair and a joker: one more and another card.
     if (t.n == 2) {
       for (int i = 0; i < 2; ++i) total += Poids(R(t.rangs[i]), 4, 6, 3, 1);
     } else {
@@ -98,21 +109,25 @@ void JeuPoker::ProbCarré() {
       total += E(a) * Poids(R(a), 3, 3, 2, 1);
     }
   } else if (H == 3 && K == 2) {
+    // A natural and both jokers: one more of its rank and another card, or two of another rank.
     const int a = t.rangs[0];
     total += E(a) * Poids(R(a), 3, 3, 2, 1);
     for (int v = 0; v <= 12; ++v)
       if (v != a) total += Poids(R(v), 4, 6, 3, 2);
   } else if (H == 4 && K == 0) {
+    // Three of a rank and another card: the fourth of the rank.
     if (t.n == 2 && (t.nombres[0] == 3 || t.nombres[1] == 3)) {
       const int a = t.nombres[0] == 3 ? t.rangs[0] : t.rangs[1];
       total += Poids(R(a), 3, 3, 2, 1);
     }
   } else if (H == 4 && K == 1) {
+    // A pair, a joker and another card: one more of the pair's rank.
     if (t.n == 2 && (t.nombres[0] == 2 || t.nombres[1] == 2)) {
       const int a = t.nombres[0] == 2 ? t.rangs[0] : t.rangs[1];
       total += Poids(R(a), 3, 3, 2, 1);
     }
   } else if (H == 4 && K == 2) {
+    // Two naturals and both jokers: one more of either rank.
     if (t.n == 2)
       for (int i = 0; i < 2; ++i) total += Poids(R(t.rangs[i]), 3, 3, 2, 0);
   }
@@ -121,12 +136,15 @@ void JeuPoker::ProbCarré() {
 
 void JeuPoker::ProbFull() {
   if (NbGardées == 5) {
+    // Five held: the hand itself, when it is a full house.
     if (RangMain == 5) Réalisations(5) = 1;
     return;
   }
   const int H = NbGardées;
   const int K = NbJokersGardés;
   const long long J = JokersRestants;
+  // No full house with both jokers held (any pair makes four), three ranks held, or four of a
+  // rank.
   if (K == 2) return;
   if (H >= 3 && K == 0 && Gardées(0) < Gardées(1) && Gardées(1) < Gardées(2)) return;
   for (int v = 0; v <= 12; ++v)
@@ -147,38 +165,48 @@ void JeuPoker::ProbFull() {
   long long total = 0;
 
   if (H == 0) {
+    // Nothing held: three of a rank, jokers among them, and a pair of another.
     for (int v = 0; v <= 12; ++v) total += (sommePaires - pairesValeur(v)) * triplesValeur(v);
   } else if (H == 1 && K == 0) {
+    // A natural: two more of its rank and a pair of another, or one more and three of another.
     const int a = t.rangs[0];
     total += (sommePaires - pairesValeur(a)) * pairesValeur(a);
     total += (sommeTriples - triplesValeur(a)) * P(a);
   } else if (H == 1 && K == 1) {
+    // A joker: two pairs, each order of the two ranks counted.
     for (int v = 0; v <= 12; ++v) total += (sommePaires - pairesValeur(v)) * pairesValeur(v);
   } else if (H == 2 && K == 0) {
     if (t.n == 1) {
+      // A pair: one more of its rank and a pair of another, or three of another rank.
       const int a = t.rangs[0];
       total += (sommePaires - pairesValeur(a)) * P(a);
       total += sommeTriples - triplesValeur(a);
     } else {
+      // Two ranks: two more of one and one of the other, or one of each and a joker.
       const int a = t.rangs[0], b = t.rangs[1];
       total += P(b) * pairesValeur(a);
       total += J * P(a) * P(b);
       total += P(a) * pairesValeur(b);
     }
   } else if (H == 2 && K == 1) {
+    // A natural and a joker: one more of its rank and a pair of another.
     const int a = t.rangs[0];
     total += (sommePaires - pairesValeur(a)) * P(a);
   } else if (H == 3 && K == 0) {
     if (t.n == 1) {
+      // Three of a rank: a pair of another.
       const int a = t.rangs[0];
       total += sommePaires - pairesValeur(a);
     } else if (t.n == 2) {
+      // A pair and a single: one more of each (a joker with the single is left out), or two of
+      // the single.
       const int a = t.nombres[0] == 2 ? t.rangs[0] : t.rangs[1];
       const int b = t.nombres[0] == 2 ? t.rangs[1] : t.rangs[0];
       total += P(a) * P(b);
       total += pairesValeur(b);
     }
   } else if (H == 3 && K == 1) {
+    // A pair and a joker: a pair of another rank; two ranks and a joker: one more of each.
     if (t.n == 1) {
       const int a = t.rangs[0];
       total += sommePaires - pairesValeur(a);
@@ -186,6 +214,7 @@ void JeuPoker::ProbFull() {
       total += P(t.rangs[0]) * P(t.rangs[1]);
     }
   } else if (H == 4 && K == 0) {
+    // Two pairs: either rank or a joker; three of a rank and a single: one more of the single.
     if (t.n == 2 && t.nombres[0] == 2 && t.nombres[1] == 2) {
       total += P(t.rangs[0]) + J + P(t.rangs[1]);
     } else if (t.n == 2) {
@@ -193,6 +222,7 @@ void JeuPoker::ProbFull() {
       total += P(b);
     }
   } else if (H == 4 && K == 1) {
+    // A pair, a joker and a single: one more of the single's rank.
     if (t.n == 2) {
       const int b = t.nombres[0] == 2 ? t.rangs[1] : t.rangs[0];
       total += P(b);

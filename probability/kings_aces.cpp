@@ -24,6 +24,7 @@ int Masque(const int (&e)[4]) { return (1 << e[0]) | (1 << e[1]) | (1 << e[2]) |
 void JeuPoker::ProbRoiOuAs() {
   const int H = NbGardées;
   if (H == 5) {
+    // Five held: the hand itself, when it is a pair of kings or aces.
     if (RangMain == 0) Réalisations(0) = 1;
     return;
   }
@@ -35,7 +36,11 @@ void JeuPoker::ProbRoiOuAs() {
   auto R = [this](int v) -> long long { return RestantsValeur(v); };
   auto P = [this](int v) -> long long { return RestantsParValeur(v); };
 
+  // The pair already in hand, with jokers in the game: the driver gives the class what the
+  // better classes leave.
   if (NbJokers != 0 && (G(kRoi) + K == 2 || G(kAs) + K == 2)) return;
+  // Three kings or aces (jokers among them), both jokers, or a lower pair held: the hand can no
+  // longer end in a lone pair of kings or aces.
   if (G(kRoi) + K >= 3) return;
   if (G(kAs) + K >= 3) return;
   if (K == 2) return;
@@ -46,11 +51,16 @@ void JeuPoker::ProbRoiOuAs() {
   auto façons = [&](int q) -> long long {
     const int g = G(q);
     if (K == 0) {
+      // A king and an ace held: a drawn joker counts under the king only.
       if (q == kAs && G(kRoi) == 1 && G(kAs) == 1) return P(kAs);
+      // None of the rank held: two drawn, or one and a joker.
       if (g == 0 && D >= 2) return C2(P(q)) + J * P(q);
+      // One held: one more, or a joker.
       if (g == 1 && D >= 1) return P(q) + J;
+      // The pair held.
       if (g == 2) return 1;
     } else {
+      // A joker held: one of the rank drawn, or one held.
       if (g == 0 && D >= 1) return P(q);
       if (g == 1) return 1;
     }
@@ -73,6 +83,8 @@ void JeuPoker::ProbRoiOuAs() {
         m -= P(v);
       }
     }
+    // By the cards to draw and x, the cards of the pair in hand: the free cards to choose, less
+    // the pairs and threes of the ranks not held.
     const int x = K + G(q);
     switch (D) {
       case 1: return x == 0 ? 0 : x == 1 ? 1 : m;
@@ -87,6 +99,7 @@ void JeuPoker::ProbRoiOuAs() {
   const long long autresRoi = autres(kRoi, kAs);
   const long long autresAs = autres(kAs, kRoi);
   long long total = 0;
+  // Each of the two pairs, unless the other rank is already paired.
   if (G(kAs) + K < 2 && G(kAs) < 2) total += façonsRoi * autresRoi;
   if (G(kRoi) + K < 2 && G(kRoi) < 2) total += façonsAs * autresAs;
   Réalisations(0) = vb::CLng(total);
@@ -103,6 +116,7 @@ void JeuPoker::ProbRoiOuAs() {
       return n;
     };
     if (H == 0 || (H == 1 && K == 1)) {
+      // Nothing natural held: the king and the ace of every suit, with the flush a joker makes of them.
       for (int s = 0; s <= 3; ++s) {
         const int n = enCouleur(s);
         for (int q : {kRoi, kAs}) {
@@ -116,6 +130,7 @@ void JeuPoker::ProbRoiOuAs() {
         }
       }
     } else {
+      // Natural cards held: their suit alone, the flushes by what is held.
       const int s = CouleursGardées(0);
       const int n = enCouleur(s);
       for (int q : {kRoi, kAs}) {

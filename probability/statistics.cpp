@@ -1,10 +1,9 @@
 // The statistics panel: the odds at rest for 0, 1 and 2 jokers (five-card sets of a full
 // deck of 52, 53 or 54 cards) and the tally of hands played.
+#include "core/colours.h"
 #include "interface/JeuPoker.h"
 
 namespace {
-constexpr Long kSarcelle = 0x404000;
-
 struct Repos {
   int entier;
   const char* décimales;
@@ -47,16 +46,18 @@ void JeuPoker::AfficheStatistiquesRepos() {
   if (NbJokers > 2) vb::RuntimeError(vb::SubscriptOutOfRange);
   UnSur->SetCaption(QString::fromLatin1(kTêtes[NbJokers]));
   for (int i = 0; i <= 11; ++i) {
+    // No five of a kind without a joker: its row stays as it is.
     if (i == 9 && NbJokers == 0) continue;
     PourcDéc(i).SetCaption(QString::number(MainsPossibles(i, NbJokers)));
     Pourcentages(i).SetCaption(TextePourcentages(i, NbJokers));
     Fractions(i).SetCaption(TexteMainsPossibles(i, NbJokers));
-    Pourcentages(i).SetBackColor(kSarcelle);
-    Fractions(i).SetBackColor(kSarcelle);
+    Pourcentages(i).SetBackColor(couleur::kSarcelle);
+    Fractions(i).SetBackColor(couleur::kSarcelle);
   }
 }
 
 void JeuPoker::AfficheFréquence() {
+  // A hand of nothing has no row in the tally.
   if (RangMain == 10) return;
   Fréquences(RangMain) = vb::CLng(static_cast<long long>(Fréquences(RangMain)) + 1);
   Fréquence(RangMain).SetCaption(QString::number(Fréquences(RangMain)));

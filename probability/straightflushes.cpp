@@ -42,13 +42,16 @@ prob::RankSet RangsTenus(JeuPoker& f) {
 
 void JeuPoker::ProbQF() {
   if (NbGardées == 5) {
+    // Five held: the hand itself, when it is a straight flush or a royal.
     if (RangMain == 7) Réalisations(7) = 1;
     if (RangMain == 8) Réalisations(8) = 1;
     return;
   }
+  // A straight flush needs both a straight and a flush to be possible.
   if (!QuintePossible || !CouleurPossible) return;
   NbQF = 0;
   NbQFR = 0;
+  // Each natural card by face position and suit: 1 in the deck, 0 not (RestantsGrille counts the jokers too).
   for (int p = 2; p <= 14; ++p)
     for (int s = 0; s <= 3; ++s) RestantsQF(p, s) = vb::CInt(RestantsGrille(p - 2, s) - JokersRestants);
   for (int s = 0; s <= 3; ++s) {
@@ -72,6 +75,7 @@ void JeuPoker::QF0à2() {
     TermesCouleurs(
         *this, 0, 3, 0, d, [](prob::RankSet, int) { return false; }, qf, qfr);
   } else {
+    // Natural cards held: their one suit.
     const int s = CouleursGardées(0);
     const bool deux = NbGardées == 2 && NbJokersGardés == 0;
     // The three and the four held: ace and two with a drawn joker is not counted.
@@ -79,6 +83,7 @@ void JeuPoker::QF0à2() {
     TermesCouleurs(
         *this, s, s, tenues, d, [&](prob::RankSet tirées, int k) { return troisQuatre && k == 1 && tirées == 0x1001; },
         qf, qfr);
+    // Two naturals held, both jokers in the deck: two shapes counted otherwise than the spans say.
     if (deux && J == 2) {
       // Ten and queen held: the king with both jokers shows as a straight flush.
       if (tenues == 0x0500) {
@@ -100,6 +105,7 @@ void JeuPoker::QF3à4() {
   const int J = JokersRestants;
   const int s = CouleursGardées(0);
   long long qf = NbQF, qfr = NbQFR;
+  // Three or four held: the suit of the natural ones.
   TermesCouleurs(
       *this, s, s, tenues, d, [](prob::RankSet, int) { return false; }, qf, qfr);
   // Three natural cards a, a + 1, a + 3: the missing a + 2 with a drawn joker counts twice.

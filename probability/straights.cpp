@@ -7,6 +7,7 @@
 
 void JeuPoker::ProbQuinte() {
   if (NbGardées == 5) {
+    // Five held: the hand itself, when it is a straight.
     if (RangMain == 3) {
       QuintePossible = true;
       Réalisations(3) = 1;
@@ -23,6 +24,7 @@ void JeuPoker::ProbQuinte() {
       if (Gardées(i + 1) <= Gardées(i)) montant = false;
     if (montant) {
       const int g0 = Gardées(0);
+      // All natural and within one span.
       if (Gardées(h - 1) - g0 < 5) QuintePossible = true;
       bool basses = true;  // every natural entry below the five or the ace
       for (int i = 0; i < h; ++i) {
@@ -30,12 +32,15 @@ void JeuPoker::ProbQuinte() {
         if (g < 52 && g >= 4 && g <= 11) basses = false;
       }
       if (basses) QuintePossible = true;
+      // A natural and a joker.
       if (h == 2 && Gardées(1) > 51) QuintePossible = true;
       if (h == 3) {
+        // A natural and both jokers, or two naturals within a span and a joker.
         if (Gardées(1) == 52) QuintePossible = true;
         if (Gardées(1) - g0 < 5 && Gardées(2) > 51) QuintePossible = true;
       }
       if (h == 4) {
+        // Two naturals within a span and both jokers, or three within a span and a joker.
         if (Gardées(1) - g0 < 5 && Gardées(2) == 52) QuintePossible = true;
         if (Gardées(2) - g0 < 5 && Gardées(3) > 51) QuintePossible = true;
       }
@@ -61,6 +66,7 @@ void JeuPoker::ProbQuinte() {
   const bool naturelEtJoker = NbGardées == 2 && NbJokersGardés == 1;
   const bool troisQuatre = NbGardées == 2 && NbJokersGardés == 0 && Gardées(0) == 1 && Gardées(1) == 2;
 
+  // Every term once: the held ranks and the drawn ones within one span, with 0 to 2 drawn jokers.
   TotalRoiOuAs = 0;
   long long somme = 0;
   prob::ForEachStraightTerm(tenues, d, J, [&](prob::RankSet u, int k) {

@@ -57,9 +57,11 @@ constexpr prob::RankSet kRuns[10] = {0x100F, 0x001F, 0x003E, 0x007C, 0x00F8, 0x0
 void JeuPoker::ProbPaires2() {
   const int H = NbGardées;
   if (H == 5) {
+    // Five held: the hand itself, when it is two pairs.
     if (RangMain == 1) Réalisations(1) = 1;
     return;
   }
+  // No two pairs with a joker held (it makes a full house), three of a rank or four ranks held.
   if (NbJokersGardés != 0) return;
   int distincts = 0;
   for (int v = 0; v <= 12; ++v) {
@@ -87,9 +89,11 @@ void JeuPoker::ProbPaires2() {
   long long total = 0;
 
   if (H == 0) {
+    // Nothing held: pairs of two ranks and a fifth card of a third.
     for (int v = 0; v <= 12; ++v)
       for (int w = v + 1; w <= 12; ++w) total += C(v) * C(w) * (N - P(v) - P(w));
   } else if (H == 1) {
+    // One card: one more of it with a pair and a fifth card, or two pairs of other ranks.
     const int a = simples[0];
     for (int v = 0; v <= 12; ++v)
       if (libre(v)) total += P(a) * C(v) * (N - P(a) - P(v));
@@ -97,6 +101,7 @@ void JeuPoker::ProbPaires2() {
       for (int w = v + 1; w <= 12; ++w)
         if (libre(v) && libre(w)) total += C(v) * C(w);
   } else if (H == 2 && simples.size() == 2) {
+    // Two ranks: one more of each and a fifth card, or one more of either and a pair.
     const int a = simples[0], b = simples[1];
     total += P(a) * P(b) * (N - P(a) - P(b));
     for (int v = 0; v <= 12; ++v) {
@@ -105,20 +110,25 @@ void JeuPoker::ProbPaires2() {
       total += P(b) * C(v);
     }
   } else if (H == 2) {
+    // A pair: a pair of another rank and a fifth card.
     const int a = paires[0];
     for (int v = 0; v <= 12; ++v)
       if (libre(v)) total += C(v) * (N - P(a) - P(v));
   } else if (H == 3 && simples.size() == 3) {
+    // Three ranks: one more of two of them.
     const int a = simples[0], b = simples[1], c = simples[2];
     total += P(a) * P(b) + P(a) * P(c) + P(b) * P(c);
   } else if (H == 3) {
+    // A pair and a single: one more of the single and a fifth card, or a pair of another rank.
     const int a = paires[0], b = simples[0];
     total += P(b) * (N - P(a) - P(b));
     for (int v = 0; v <= 12; ++v)
       if (libre(v)) total += C(v);
   } else if (H == 4 && paires.size() == 1) {
+    // A pair and two singles: one more of either single.
     total += P(simples[0]) + P(simples[1]);
   } else if (H == 4) {
+    // Two pairs: any natural card of a third rank.
     Réalisations(1) = vb::CLng(N - P(paires[0]) - P(paires[1]));
     return;
   }
@@ -129,6 +139,7 @@ void JeuPoker::ProbBrelan() {
   TotalRoiOuAs = 0;
   const int H = NbGardées;
   if (H == 5) {
+    // Five held: the hand itself, when it is three of a kind.
     if (RangMain == 2) Réalisations(2) = 1;
     return;
   }
@@ -173,15 +184,19 @@ void JeuPoker::ProbBrelan() {
   long long total = 0;
 
   if (H == 0) {
+    // Nothing held: three of a rank, jokers among them, and two kickers.
     for (int v = 0; v <= 12; ++v) total += kickers(v) * C3R(v);
   } else if (H == 1 && K == 0) {
+    // A natural: two more of its rank and two kickers, or three of another rank and a kicker.
     const int a = rangs[0];
     total += kickers(a) * C2R(a);
     for (int v = 0; v <= 12; ++v)
       if (v != a) total += C3R(v) * (N - P(v) - P(a));
   } else if (H == 1 && K == 1) {
+    // A joker: two of a rank and two kickers.
     for (int v = 0; v <= 12; ++v) total += kickers(v) * C2R(v);
   } else if (H == 2 && K == 0 && n == 2) {
+    // Two ranks: two more of either and a kicker, or three of another rank.
     const int a = rangs[0], b = rangs[1];
     const long long F = N - P(a) - P(b);
     total += C2R(a) * F;
@@ -189,26 +204,33 @@ void JeuPoker::ProbBrelan() {
     for (int v = 0; v <= 12; ++v)
       if (v != a && v != b) total += C3R(v);
   } else if (H == 2 && K == 0) {
+    // A pair: one more of its rank and two kickers.
     const int a = rangs[0];
     total += kickers(a) * R(a);
   } else if (H == 2 && K == 1) {
+    // A natural and a joker: one more of its rank and two kickers, or a pair of another and a kicker.
     const int a = rangs[0];
     total += kickers(a) * R(a);
     for (int v = 0; v <= 12; ++v)
       if (v != a) total += C2R(v) * (N - P(v) - P(a));
   } else if (H == 2 && K == 2) {
+    // Both jokers: two kickers (the driver gives the class what the better ones leave).
     for (int v = 0; v <= 12; ++v) total += kickers(v);
   } else if (H == 3 && K == 0) {
     if (n == 3) {
+      // Three ranks: two more of one of them.
       total += C2R(rangs[0]) + C2R(rangs[1]) + C2R(rangs[2]);
     } else if (n == 2) {
+      // A pair and a single: one more of the pair's rank and a kicker.
       const int a = seul(2), b = seul(1);
       total += R(a) * (N - P(a) - P(b));
     } else {
+      // Three of a rank: two kickers.
       total += kickers(rangs[0]);
     }
   } else if (H == 3 && K == 1) {
     if (n == 2) {
+      // Two ranks and a joker: a pair of another rank, or one more of either and a kicker.
       const int a = rangs[0], b = rangs[1];
       // The jokers stay among the kickers here.
       const long long F = T - 5 - P(a) - P(b);
@@ -217,28 +239,36 @@ void JeuPoker::ProbBrelan() {
       total += R(a) * F;
       total += R(b) * F;
     } else {
+      // A pair and a joker: two kickers.
       total += kickers(rangs[0]);
     }
   } else if (H == 3 && K == 2) {
+    // A natural and both jokers: two kickers.
     total += kickers(rangs[0]);
   } else if (H == 4 && K == 0) {
     if (n == 2 && seul(3) >= 0) {
+      // Three of a rank and a single: a kicker.
       total += N - P(seul(3)) - P(seul(1));
     } else if (n == 3) {
+      // A pair and two singles: one more of the pair's rank.
       total += R(seul(2));
     }
   } else if (H == 4 && K == 1) {
     if (n == 3) {
+      // Three ranks and a joker: one more of any of them, or the other joker.
       total += P(rangs[0]) + P(rangs[1]) + P(rangs[2]) + J;
     } else if (n == 2 && seul(2) >= 0) {
+      // A pair, a single and a joker: a kicker.
       total += N - P(seul(2)) - P(seul(1));
     }
   } else if (H == 4 && K == 2) {
+    // Two naturals and both jokers: a kicker.
     if (n == 2) total += N - P(rangs[0]) - P(rangs[1]);
   }
   TotalRoiOuAs = static_cast<double>(total);
 
   Réalisations(2) = vb::CLng(std::llround(TotalRoiOuAs));
+  // Only two jokers beside three different natural cards make a straight or a flush of it.
   if (Réalisations(2) == 0 || K + J < 2) return;
   for (int v = 0; v <= 12; ++v)
     if (GardéesValeur(v) == 2) return;
@@ -246,6 +276,7 @@ void JeuPoker::ProbBrelan() {
   // Two jokers beside three different natural cards: the flushes come off.
   if (CouleurPossible) {
     if (H > 0 && Gardées(0) < 52) {
+      // A natural card held: its suit, by what is held.
       const int s = CouleursGardées(0);
       long long nc = 13;
       for (int i = 0; i <= 4; ++i)
@@ -306,10 +337,12 @@ void JeuPoker::ProbBrelan() {
     }();
     for (const auto& [s, fois] : trios) retire(s, fois);
   } else if (n == 1) {
+    // One natural rank: its own listing of the ranks that complete it.
     const int a = rangs[0];
     for (const Entrée& e : ListeUnRang(a))
       retire(static_cast<prob::RankSet>((1u << a) | (1u << e.x) | (1u << e.y)), e.fois);
   } else if (n <= 3) {
+    // Two or three natural ranks: every set of three in a run that holds them, once.
     for (prob::RankSet s : prob::Sets().bySize[3])
       if ((s & tenues) == tenues) retire(s, 1);
   }

@@ -3,6 +3,7 @@
 // small window of its own.
 #include <QDir>
 
+#include "core/colours.h"
 #include "interface/JeuPoker.h"
 #include "services/platform.h"
 #include "services/web.h"
@@ -18,12 +19,12 @@ void JeuPoker::BuildAfficheForm() {
   AfficheForm->setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::CustomizeWindowHint);
   AfficheForm->setWindowTitle(QStringLiteral("TALVERO"));
   AfficheForm->Move(0, 0, 7200, 4200);
-  AfficheForm->SetBackColor(0x202020);
+  AfficheForm->SetBackColor(couleur::kAnthracite);
   AfficheForm->SetBevelWidth(0);
   AfficheForm->SetVisible(false);
   Register(AfficheForm);
   Control* logo = Make(K::PictureBox, QStringLiteral("AfficheLogo"), AfficheForm, 120, 120, 3000, 3000);
-  logo->SetBackColor(0x000000);
+  logo->SetBackColor(couleur::kNoir);
   AfficheLogoWeb = Make(K::PictureBox, QStringLiteral("AfficheLogoWeb"), logo, 0, 0, 3000, 3000);
   new WebPanel(AfficheLogoWeb);
   AfficheLabel = ControlArray<Control>(0, 1);
@@ -32,8 +33,8 @@ void JeuPoker::BuildAfficheForm() {
   for (int i = 0; i <= 1; ++i) {
     Control* l = Make(K::Label, QStringLiteral("AfficheLabel"), AfficheForm, 3300, 360 + 1080 * i, 3720, 960, i);
     l->SetCaption(QString::fromUtf8(textes[i]));
-    l->SetBackColor(0x202020);
-    l->SetForeColor(0xFFFFFF);
+    l->SetBackColor(couleur::kAnthracite);
+    l->SetForeColor(couleur::kBlanc);
     l->SetFontSpec(QStringLiteral("Liberation Sans"), 11, true);
     AfficheLabel.Set(i, l);
   }
@@ -42,7 +43,7 @@ void JeuPoker::BuildAfficheForm() {
   OkNonCmd = Make(K::Button, QStringLiteral("OkNonCmd"), AfficheForm, 5220, 2640, 1800, 600);
   OkNonCmd->SetCaption(QString::fromUtf8("Je ne suis pas d'accord"));
   for (Control* b : {OkOuiCmd, OkNonCmd}) {
-    b->SetBackColor(0xC0C0C0);
+    b->SetBackColor(couleur::kGrisClair);
     b->SetBevelWidth(3);
   }
   OkOuiCmd->Click = [this] { OkOuiCmd_Click(); };
@@ -51,7 +52,7 @@ void JeuPoker::BuildAfficheForm() {
 
 void JeuPoker::VérifieRésolution() {
   const DisplayMode actuel = Sys().CurrentDisplayMode();
-  ModeÉcran = {actuel.width, actuel.height, actuel.bitsPerPixel, actuel.frequency, 0};
+  ModeÉcran = actuel;
   LargeurÉcran = vb::CInt(actuel.width);
   HauteurÉcran = vb::CInt(actuel.height);
   CouleursÉcran = vb::CInt(actuel.bitsPerPixel);
@@ -90,7 +91,7 @@ void JeuPoker::ChangeAffichage(Integer& largeur, Integer& hauteur, Integer& coul
   NoteChangement(largeur, hauteur, couleurs, fréquence, nom);
   ModeÉcran.fields = kChamps;
   // A change for this run only; the platform's answer is not looked at.
-  Sys().ChangeDisplayMode({ModeÉcran.width, ModeÉcran.height, ModeÉcran.bitsPerPixel, ModeÉcran.frequency});
+  Sys().ChangeDisplayMode(ModeÉcran);
 }
 
 void JeuPoker::NoteChangement(Integer largeur, Integer hauteur, Integer couleurs, Integer fréquence,

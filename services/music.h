@@ -6,9 +6,12 @@
 // length, as the same text. The tempo is the first tempo of the file in beats a minute.
 // Anything else, or anything about an alias that is not open, answers an empty text.
 //
-// Sound goes through FluidSynth with the distribution's General MIDI SoundFont. With no
-// sound device (or TALVERO_NO_AUDIO=1) the player is silent: position then follows the clock
-// from "play", so pieces still end after their duration and the next one comes.
+// Sound goes through the synthesizer (services/synthesizer.h). With no sound device (or
+// TALVERO_NO_AUDIO=1) the player is silent: position then follows the clock from "play", so
+// pieces still end after their duration and the next one comes.
+//
+// The player runs on the GUI thread, where the game's routines send their commands; the sound
+// device is opened on a worker and joins at a later command once it is ready.
 #pragma once
 
 #include <QByteArray>
@@ -16,34 +19,10 @@
 #include <QString>
 #include <future>
 #include <memory>
-#include <optional>
-#include <vector>
 
-// What a Standard MIDI File says of its timing.
-struct MidiTiming {
-  qint64 lengthMs = 0;  // from the start to the last event of any track
-  int bpm = 120;        // the first tempo, rounded; 120 when the file sets none
-  // Milliseconds at a tick, through the file's tempo changes.
-  qint64 MsAt(qint64 tick) const;
+#include "services/midi_file.h"
 
-  int division = 480;                                   // ticks a quarter note (a positive division)
-  double msPerTickSmpte = 0;                            // for SMPTE time, ms a tick; 0 otherwise
-  std::vector<std::pair<qint64, qint64>> tempoChanges;  // tick, microseconds a quarter note
-};
-
-// Reads the timing of a MIDI file; nothing when the data is not a well-formed file.
-std::optional<MidiTiming> ReadMidiTiming(const QByteArray& data);
-
-// The General MIDI SoundFont of the system, or an empty text when none is installed.
-QString GeneralMidiSoundFont();
-
-// How the synthesizer takes the SoundFont's samples: when an instrument is first chosen (what
-// the game does: its pieces use a few of the 128 instruments), or all when the SoundFont loads.
-enum class SampleLoading { WhenUsed, AllAtLoad };
-
-// Renders a MIDI file through FluidSynth into a 16-bit stereo WAV file at 44100 Hz, as fast as
-// it can, up to the end of the piece. False when FluidSynth, the SoundFont or a file fails.
-bool RenderMidiToWav(const QString& midiPath, const QString& wavPath, SampleLoading loading = SampleLoading::WhenUsed);
+class SoundDevice;
 
 class MidiPlayer {
  public:
@@ -61,20 +40,17 @@ class MidiPlayer {
   bool Audible() const { return audio_ != nullptr; }
 
  private:
-  struct Audio;
-
   void Close();
   bool Open(const QString& path);
   void Play();
   qint64 PositionMs();
   void StartAudio();
-  void JoinAudio();                // takes the device once the worker has opened it
-  void StartSynth(qint64 fromMs);  // the open piece through the synthesizer, from a time
+  void JoinAudio();  // takes the device once the worker has opened it
 
   Output output_;
   bool audioTried_ = false;
-  std::unique_ptr<Audio> audio_;
-  std::future<std::unique_ptr<Audio>> audioStarting_;
+  std::unique_ptr<SoundDevice> audio_;
+  std::future<std::unique_ptr<SoundDevice>> audioStarting_;
   bool joinedLate_ = false;  // the sound joined a piece under way: its position is the clock's
 
   QString alias_;  // the alias of the open piece; empty when none is open

@@ -85,10 +85,10 @@ QString RealPlatform::SendMciCommand(const QString& command) {
 }
 
 DisplayMode RealPlatform::CurrentDisplayMode() {
-  xrandr::Mode x;
-  if (xrandr::Current(x)) return {x.width, x.height, x.bitsPerPixel, x.frequency};
-  // Without RandR, what Qt knows of the screen.
   DisplayMode m;
+  if (xrandr::Current(m)) return m;
+  // Without RandR, what Qt knows of the screen (32 bits at 60 Hz until it says more).
+  m = {0, 0, 32, 60};
   if (auto* s = QGuiApplication::primaryScreen()) {
     m.width = s->size().width();
     m.height = s->size().height();
@@ -99,75 +99,17 @@ DisplayMode RealPlatform::CurrentDisplayMode() {
 }
 
 std::vector<DisplayMode> RealPlatform::DisplayModes() {
-  std::vector<DisplayMode> out;
-  for (const xrandr::Mode& x : xrandr::Modes()) out.push_back({x.width, x.height, x.bitsPerPixel, x.frequency});
+  std::vector<DisplayMode> out = xrandr::Modes();
   if (out.empty()) out.push_back(CurrentDisplayMode());
   return out;
 }
 
 bool RealPlatform::ChangeDisplayMode(const DisplayMode& mode) {
   // Without RandR (Wayland, a server without the extension) the mode stays as it is.
-  return xrandr::Change({mode.width, mode.height, mode.bitsPerPixel, mode.frequency});
+  return xrandr::Change(mode);
 }
 
 bool RealPlatform::Connected() {
   NetworkAccess* network = Network();
   return network == nullptr || network->Connected();
-}
-
-// ---------------------------------------------------------------------------------------
-
-void ScriptedPlatform::DoEvents() {
-  ++yields;
-  if (processQtEvents) QCoreApplication::processEvents(QEventLoop::AllEvents);
-  if (onYield) onYield();
-  auto range = yieldActions_.equal_range(yields);
-  std::vector<std::function<void()>> due;
-  for (auto it = range.first; it != range.second; ++it) due.push_back(it->second);
-  yieldActions_.erase(range.first, range.second);
-  for (auto& action : due) action();
-}
-
-void ScriptedPlatform::Sleep(int ms) {
-  if (ms > 0) sleptMs += ms;
-}
-
-void ScriptedPlatform::Randomize(double seed) {
-  seeds.push_back(seed);
-  RealPlatform::Randomize(seed);
-}
-
-int ScriptedPlatform::RandomInt(int n) {
-  if (!queuedDraws.empty()) {
-    const int v = queuedDraws.front();
-    queuedDraws.pop_front();
-    if (v >= 0 && v < n) return v;
-    drawErrors.push_back(QStringLiteral("draw %1 is not below %2; drawn at random").arg(v).arg(n));
-  }
-  return RealPlatform::RandomInt(n);
-}
-
-QString ScriptedPlatform::SendMciCommand(const QString& command) {
-  mciCommands.push_back(command);
-  for (const auto& [prefix, answer] : mciAnswers)
-    if (command.startsWith(prefix)) return answer;
-  return {};
-}
-
-bool ScriptedPlatform::ChangeDisplayMode(const DisplayMode& mode) {
-  displayChanges.push_back(mode);
-  for (const auto& m : modes)
-    if (m.width == mode.width && m.height == mode.height) {
-      display = mode;
-      return true;
-    }
-  return false;
-}
-
-void ScriptedPlatform::QueueDraws(const std::vector<int>& draws) {
-  queuedDraws.insert(queuedDraws.end(), draws.begin(), draws.end());
-}
-
-void ScriptedPlatform::AtYield(int n, std::function<void()> action) {
-  yieldActions_.emplace(yields + n, std::move(action));
 }

@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QDir>
 
+#include "core/table_facts.h"
 #include "interface/JeuPoker.h"
 #include "services/platform.h"
 #include "services/startup_stages.h"
@@ -17,35 +18,36 @@ QString LeftoverPictureName(int i) {
 }  // namespace
 
 void JeuPoker::Form_Load() {
-  // 1. Display mode: the screen is checked and changed when below 768 lines; a refusal ends
-  // the program here.
+  // Display mode: the screen is checked and changed when below 768 lines; a refusal ends the
+  // program here.
   VérifieRésolution();
   if (FinDemandée) return;
-  // 2. Form size and the web panels' places.
+  // The form's size and the web panels' places.
   resize(15360 / kTwipsPerPixel, 11520 / kTwipsPerPixel);
   Pub0Pic->SetTop(8700);
   Pub1Pic->SetLeft(11940);
-  // 3. The web panels show the publisher's pages.
+  // The web panels show the publisher's pages.
   if (auto* web = Pub0Web->findChild<WebPanel*>()) web->Navigate(AdresseWeb(QStringLiteral("pub0.htm")));
   if (auto* web = Pub1Web->findChild<WebPanel*>()) web->Navigate(AdresseWeb(QStringLiteral("pub1.htm")));
   StartupStage("web");
-  // 4. The no-connection notice is centred on the form.
+  // The no-connection notice is centred on the form.
   NonConnectéPic->SetLeft((width() * kTwipsPerPixel - NonConnectéPic->Width()) / 2);
   NonConnectéPic->SetTop((height() * kTwipsPerPixel - NonConnectéPic->Height()) / 2);
 
-  // 5. From here on a failing statement is skipped and the next one runs.
-  // 6. Leftover card pictures in the start directory.
+  // From here on a failing statement is skipped and the next one runs.
+  // Leftover card pictures are deleted from the start directory.
   for (int i = 0; i <= 53; ++i) vb::SkipOnError([&] { Sys().DeleteFile(LeftoverPictureName(i)); });
-  // 7. The rules page is centred at (6000, 4500).
+  // The rules page is centred at (6000, 4500).
   vb::SkipOnError([&] {
     SSAides->SetTop(4500 - SSAides->Height() / 2);
     SSAides->SetLeft(6000 - SSAides->Width() / 2);
   });
-  // 8. The program's own directory.
+  // The program's own directory becomes the current one (Ini.dat is read there).
   vb::SkipOnError([&] {
     if (!Sys().ChangeDirectory(programDir_)) vb::RuntimeError(76);
   });
-  // 9. The language byte.
+  // The stored language: 2 English, 3 French turn the screen; any other byte, or none, leaves
+  // it in French as built.
   vb::SkipOnError([&] {
     std::optional<std::uint8_t> byte;
     if (!Sys().ReadRecordByte(QStringLiteral("Ini.dat"), byte)) vb::RuntimeError(vb::PathFileAccess);
@@ -56,27 +58,27 @@ void JeuPoker::Form_Load() {
   });
   // Without a stored language the names of the grid's hands follow the alert lines' test.
   vb::SkipOnError([&] { RemplitNomsMains(); });
-  // 10. All cards start face down.
+  // All cards start face down.
   vb::SkipOnError([&] {
-    for (int i = 0; i <= 24; ++i) Deal2(i).SetPicture(Cartes(54).GetPicture());
-    for (int i = 0; i <= 4; ++i) Deal(i).SetPicture(Cartes(54).GetPicture());
+    for (int i = 0; i <= 24; ++i) Deal2(i).SetPicture(Cartes(kDos).GetPicture());
+    for (int i = 0; i <= 4; ++i) Deal(i).SetPicture(Cartes(kDos).GetPicture());
   });
-  // 11.
+  // Dealing starts instant (no card animation).
   AffichageImmédiat = true;
-  // 12. The hint table, both languages.
+  // The hint table, both languages.
   vb::SkipOnError([&] { RemplitMessages(); });
-  // 13. The deck and a new game.
+  // Two jokers, and a new game on that deck.
   vb::SkipOnError([&] {
     NbJokers = 2;
     Initialise();
     TailleJeu = NbJokers + 52;
   });
-  // 14. Show the form.
+  // The form is shown.
   vb::SkipOnError([&] { show(); });
   StartupStage("shown");
-  // 15. The statistics tables, and the panel at rest for the deck in force.
+  // The statistics tables, and the panel at rest for the deck in force.
   vb::SkipOnError([&] { RemplitStatistiques(); });
-  // 16. The music.
+  // The music: its button shows "on", and the first piece starts.
   vb::SkipOnError([&] { SSMusic(0).SetPicture(SSMusic(1).GetPicture()); });
   vb::SkipOnError([&] { JoueMusic(); });
   StartupStage("music");

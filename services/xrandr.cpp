@@ -44,7 +44,7 @@ struct Configuration {
 
 bool Available() { return Connection() != nullptr; }
 
-bool Current(Mode& mode) {
+bool Current(DisplayMode& mode) {
   Display* d = Connection();
   if (!d) return false;
   Configuration c(d);
@@ -61,8 +61,8 @@ bool Current(Mode& mode) {
   return true;
 }
 
-std::vector<Mode> Modes() {
-  std::vector<Mode> out;
+std::vector<DisplayMode> Modes() {
+  std::vector<DisplayMode> out;
   Display* d = Connection();
   if (!d) return out;
   Configuration c(d);
@@ -79,7 +79,7 @@ std::vector<Mode> Modes() {
   return out;
 }
 
-bool Change(const Mode& mode) {
+bool Change(const DisplayMode& mode) {
   Display* d = Connection();
   if (!d) return false;
   Configuration c(d);
@@ -106,9 +106,9 @@ bool Change(const Mode& mode) {
 
 #else
 bool Available() { return false; }
-bool Current(Mode&) { return false; }
-std::vector<Mode> Modes() { return {}; }
-bool Change(const Mode&) { return false; }
+bool Current(DisplayMode&) { return false; }
+std::vector<DisplayMode> Modes() { return {}; }
+bool Change(const DisplayMode&) { return false; }
 #endif
 
 }  // namespace xrandr

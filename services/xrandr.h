@@ -4,21 +4,16 @@
 
 #include <vector>
 
-namespace xrandr {
+#include "services/display_mode.h"
 
-struct Mode {
-  int width = 0;
-  int height = 0;
-  int bitsPerPixel = 0;
-  int frequency = 0;
-};
+namespace xrandr {
 
 // True when the game runs on an X server that has RandR.
 bool Available();
-bool Current(Mode& mode);
-std::vector<Mode> Modes();
+bool Current(DisplayMode& mode);
+std::vector<DisplayMode> Modes();
 // Sets the screen size of `mode` (and its rate when the server has it). False when the
 // server has no such size or refuses.
-bool Change(const Mode& mode);
+bool Change(const DisplayMode& mode);
 
 }  // namespace xrandr

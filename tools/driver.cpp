@@ -4,14 +4,17 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QFile>
+#include <QHash>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPixmap>
 #include <QRegularExpression>
 #include <QTimer>
+#include <utility>
 
 #include "interface/JeuPoker.h"
+#include "interface/bind.h"
 #include "services/platform.h"
 #include "services/web.h"
 
@@ -47,23 +50,6 @@ Target ParseTarget(const QString& text, bool withProperty) {
 
 QString TargetText(const Target& t) { return t.index < 0 ? t.name : QStringLiteral("%1(%2)").arg(t.name).arg(t.index); }
 
-QString Bool(bool b) { return b ? QStringLiteral("-1") : QStringLiteral("0"); }
-
-QString Escape(const QString& s) {
-  QString out;
-  for (QChar c : s) {
-    if (c == '\\')
-      out += "\\\\";
-    else if (c == '\r')
-      out += "\\r";
-    else if (c == '\n')
-      out += "\\n";
-    else
-      out += c;
-  }
-  return out;
-}
-
 // Key codes of the game to Qt keys: 32 Space, 96..105 the keypad digits.
 QKeyEvent MakeKey(QEvent::Type type, int code) {
   int key = code;
@@ -94,14 +80,8 @@ void SeededPlatform::Seed(std::uint32_t seed) {
   generator_.seed(seed);
 }
 
-int SeededPlatform::RandomInt(int n) {
-  if (!seeded_) return ScriptedPlatform::RandomInt(n);
-  if (!queuedDraws.empty()) {
-    const int v = queuedDraws.front();
-    queuedDraws.pop_front();
-    if (v >= 0 && v < n) return v;
-    drawErrors.push_back(QStringLiteral("draw %1 is not below %2; drawn at random").arg(v).arg(n));
-  }
+int SeededPlatform::UnqueuedDraw(int n) {
+  if (!seeded_) return ScriptedPlatform::UnqueuedDraw(n);
   if (n <= 0) return 0;
   // The whole part of a uniform number in [0, 1) times n, from 32 random bits.
   return static_cast<int>((static_cast<std::uint64_t>(generator_()) * static_cast<std::uint64_t>(n)) >> 32);
@@ -124,107 +104,145 @@ void Driver::Execute(const QString& rawLine) {
   const QString cmd = space < 0 ? line : line.left(space);
   const QString rest = space < 0 ? QString() : line.mid(space + 1).trimmed();
 
-  if (cmd == "click") {
-    Click(rest);
-  } else if (cmd == "move") {
-    Move(rest);
-  } else if (cmd == "key") {
-    Key(rest);
-  } else if (cmd == "tick") {
-    TimerControl* t = form_.FindTimer(rest);
-    if (!t)
-      Error(QStringLiteral("no timer %1").arg(rest));
-    else
-      t->Fire();
-  } else if (cmd == "draw") {
-    std::vector<int> draws;
-    for (const auto& part : rest.split(' ', Qt::SkipEmptyParts)) {
-      bool ok = false;
-      const int v = part.toInt(&ok);
-      if (!ok) return Error(QStringLiteral("draw takes whole numbers, not %1").arg(part));
-      draws.push_back(v);
-    }
-    platform_.QueueDraws(draws);
-  } else if (cmd == "get") {
-    Get(rest);
-  } else if (cmd == "var") {
-    Var(rest, false, {});
-  } else if (cmd == "set") {
-    const int sp = rest.indexOf(' ');
-    if (sp < 0) return Error(QStringLiteral("set takes a name and a value"));
-    Var(rest.left(sp), true, rest.mid(sp + 1));
-  } else if (cmd == "atyield") {
-    const int sp = rest.indexOf(' ');
-    bool ok = false;
-    const int n = sp < 0 ? 0 : rest.left(sp).toInt(&ok);
-    if (!ok || n < 1) return Error(QStringLiteral("atyield takes a count from 1 and a command"));
-    const QString inner = rest.mid(sp + 1);
-    platform_.AtYield(n, [this, inner, generation = yieldGeneration_] {
-      if (generation == yieldGeneration_) Execute(inner);
-    });
-  } else if (cmd == "unyield") {
-    // The commands still waiting for a yield are dropped.
-    if (!rest.isEmpty()) return Error(QStringLiteral("unyield takes nothing"));
-    ++yieldGeneration_;
-  } else if (cmd == "seed") {
-    bool ok = false;
-    const uint seed = rest.toUInt(&ok);
-    auto* seeded = dynamic_cast<SeededPlatform*>(&platform_);
-    if (!ok) return Error(QStringLiteral("seed takes a whole number from 0 to 4294967295"));
-    if (!seeded) return Error(QStringLiteral("seed needs the platform of talvero-drive"));
-    seeded->Seed(seed);
-  } else if (cmd == "slept") {
-    out_(QStringLiteral("slept=%1").arg(platform_.sleptMs));
-  } else if (cmd == "file") {
-    File(rest);
-  } else if (cmd == "shot") {
-    // A picture of the window as the player sees it, as PNG.
-    if (rest.isEmpty()) return Error(QStringLiteral("shot takes a file name"));
-    const QString path = startDirectory.isEmpty() ? rest : QDir(startDirectory).absoluteFilePath(rest);
-    // The main form, or the display question while it waits alone at start.
-    QWidget* shown =
-        !form_.isVisible() && form_.AfficheForm->isVisible() ? static_cast<QWidget*>(form_.AfficheForm) : &form_;
-    if (!shown->grab().save(path, "PNG")) Error(QStringLiteral("%1 cannot be written").arg(rest));
-  } else if (cmd == "coach") {
-    if (rest.isEmpty())
-      out_(form_.LigneCoach());
-    else if (rest == "session")
-      out_(form_.LigneSessionCoach());
-    else if (rest.startsWith(QLatin1String("shot ")))
-      CoachShot(rest.mid(5).trimmed());
-    else
-      return Error(QStringLiteral("coach takes nothing, session or shot FILE"));
-  } else if (cmd == "close") {
-    form_.close();
-  } else if (cmd == "mci") {
-    // The command texts sent to the music player since the last `mci`.
-    for (std::size_t i = mciShown_; i < platform_.mciCommands.size(); ++i) out_("mci=" + platform_.mciCommands[i]);
-    mciShown_ = platform_.mciCommands.size();
-  } else if (cmd == "mcianswer") {
-    const int sp = rest.indexOf(' ');
-    if (sp < 0) return Error(QStringLiteral("mcianswer takes a key and a value"));
-    platform_.mciAnswers[QStringLiteral("status sequence ") + rest.left(sp)] = rest.mid(sp + 1).trimmed();
-  } else if (cmd == "display") {
-    out_(QStringLiteral("display=%1x%2").arg(platform_.display.width).arg(platform_.display.height));
-  } else if (cmd == "net") {
-    if (rest == "on")
-      platform_.connected = true;
-    else if (rest == "off")
-      platform_.connected = false;
-    else
-      return Error(QStringLiteral("net takes on or off"));
-  } else if (cmd == "wait") {
-    // Real time passes: network replies arrive; the game's timers still fire only by `tick`.
-    bool ok = false;
-    const int ms = rest.toInt(&ok);
-    if (!ok || ms < 0) return Error(QStringLiteral("wait takes milliseconds"));
-    QEventLoop loop;
-    QTimer::singleShot(ms, &loop, &QEventLoop::quit);
-    loop.exec();
-  } else {
+  static const QHash<QString, void (Driver::*)(const QString&)> commands = {
+      {"click", &Driver::Click},
+      {"move", &Driver::Move},
+      {"key", &Driver::Key},
+      {"tick", &Driver::Tick},
+      {"draw", &Driver::Draw},
+      {"get", &Driver::Get},
+      {"var", &Driver::Var},
+      {"set", &Driver::Set},
+      {"atyield", &Driver::AtYield},
+      {"unyield", &Driver::Unyield},
+      {"seed", &Driver::Seed},
+      {"slept", &Driver::Slept},
+      {"file", &Driver::File},
+      {"shot", &Driver::Shot},
+      {"close", &Driver::Close},
+      {"mci", &Driver::Mci},
+      {"mcianswer", &Driver::MciAnswer},
+      {"display", &Driver::Display},
+      {"net", &Driver::Net},
+      {"wait", &Driver::Wait},
+      {"coach", &Driver::Coach},
+  };
+  const auto handler = commands.value(cmd);
+  if (!handler) {
     Error(QStringLiteral("unknown command %1").arg(cmd));
+  } else {
+    // A command that refused its words leaves the draw errors met so far to a later command.
+    // The flag is put back at once, as a command run at a yield inside this one sets its own.
+    refused_ = false;
+    (this->*handler)(rest);
+    if (std::exchange(refused_, false)) return;
   }
   FlushDrawErrors();
+}
+
+void Driver::Refuse(const QString& reason) {
+  Error(reason);
+  refused_ = true;
+}
+
+void Driver::Tick(const QString& name) {
+  TimerControl* t = form_.FindTimer(name);
+  if (!t)
+    Error(QStringLiteral("no timer %1").arg(name));
+  else
+    t->Fire();
+}
+
+void Driver::Draw(const QString& numbers) {
+  std::vector<int> draws;
+  for (const auto& part : numbers.split(' ', Qt::SkipEmptyParts)) {
+    bool ok = false;
+    const int v = part.toInt(&ok);
+    if (!ok) return Refuse(QStringLiteral("draw takes whole numbers, not %1").arg(part));
+    draws.push_back(v);
+  }
+  platform_.QueueDraws(draws);
+}
+
+void Driver::Set(const QString& text) {
+  const int sp = text.indexOf(' ');
+  if (sp < 0) return Refuse(QStringLiteral("set takes a name and a value"));
+  VarOrSet(text.left(sp), true, text.mid(sp + 1));
+}
+
+void Driver::AtYield(const QString& text) {
+  const int sp = text.indexOf(' ');
+  bool ok = false;
+  const int n = sp < 0 ? 0 : text.left(sp).toInt(&ok);
+  if (!ok || n < 1) return Refuse(QStringLiteral("atyield takes a count from 1 and a command"));
+  const QString inner = text.mid(sp + 1);
+  platform_.AtYield(n, [this, inner, generation = yieldGeneration_] {
+    if (generation == yieldGeneration_) Execute(inner);
+  });
+}
+
+// The commands still waiting for a yield are dropped.
+void Driver::Unyield(const QString& text) {
+  if (!text.isEmpty()) return Refuse(QStringLiteral("unyield takes nothing"));
+  ++yieldGeneration_;
+}
+
+void Driver::Seed(const QString& text) {
+  bool ok = false;
+  const uint seed = text.toUInt(&ok);
+  auto* seeded = dynamic_cast<SeededPlatform*>(&platform_);
+  if (!ok) return Refuse(QStringLiteral("seed takes a whole number from 0 to 4294967295"));
+  if (!seeded) return Refuse(QStringLiteral("seed needs the platform of talvero-drive"));
+  seeded->Seed(seed);
+}
+
+void Driver::Close(const QString&) { form_.close(); }
+
+void Driver::Slept(const QString&) { out_(QStringLiteral("slept=%1").arg(platform_.sleptMs)); }
+
+// A picture of the window as the player sees it, as PNG.
+void Driver::Shot(const QString& name) {
+  if (name.isEmpty()) return Refuse(QStringLiteral("shot takes a file name"));
+  const QString path = startDirectory.isEmpty() ? name : QDir(startDirectory).absoluteFilePath(name);
+  // The main form, or the display question while it waits alone at start.
+  QWidget* shown =
+      !form_.isVisible() && form_.AfficheForm->isVisible() ? static_cast<QWidget*>(form_.AfficheForm) : &form_;
+  if (!shown->grab().save(path, "PNG")) Error(QStringLiteral("%1 cannot be written").arg(name));
+}
+
+// The command texts sent to the music player since the last `mci`.
+void Driver::Mci(const QString&) {
+  for (std::size_t i = mciShown_; i < platform_.mciCommands.size(); ++i) out_("mci=" + platform_.mciCommands[i]);
+  mciShown_ = platform_.mciCommands.size();
+}
+
+void Driver::MciAnswer(const QString& text) {
+  const int sp = text.indexOf(' ');
+  if (sp < 0) return Refuse(QStringLiteral("mcianswer takes a key and a value"));
+  platform_.mciAnswers[QStringLiteral("status sequence ") + text.left(sp)] = text.mid(sp + 1).trimmed();
+}
+
+void Driver::Display(const QString&) {
+  out_(QStringLiteral("display=%1x%2").arg(platform_.display.width).arg(platform_.display.height));
+}
+
+void Driver::Net(const QString& state) {
+  if (state == "on")
+    platform_.connected = true;
+  else if (state == "off")
+    platform_.connected = false;
+  else
+    Refuse(QStringLiteral("net takes on or off"));
+}
+
+// Real time passes: network replies arrive; the game's timers still fire only by `tick`.
+void Driver::Wait(const QString& text) {
+  bool ok = false;
+  const int ms = text.toInt(&ok);
+  if (!ok || ms < 0) return Refuse(QStringLiteral("wait takes milliseconds"));
+  QEventLoop loop;
+  QTimer::singleShot(ms, &loop, &QEventLoop::quit);
+  loop.exec();
 }
 
 // What a player's pointer at the centre of `c` reaches in c's window (the main form, or the
@@ -238,14 +256,30 @@ QWidget* Driver::Reached(Control* c) const {
   return reached;
 }
 
-void Driver::Click(const QString& text) {
+QWidget* Driver::PointerAt(const QString& text, QPointF& centre) {
   const Target t = ParseTarget(text, false);
-  if (!t.error.isEmpty()) return Error(t.error);
+  if (!t.error.isEmpty()) {
+    Error(t.error);
+    return nullptr;
+  }
   Control* c = t.ok ? form_.FindControl(t.name, t.index) : nullptr;
-  if (!c) return Error(QStringLiteral("no control %1").arg(text));
+  if (!c) {
+    Error(QStringLiteral("no control %1").arg(text));
+    return nullptr;
+  }
   QWidget* reached = Reached(c);
-  if (!reached) return Error(QStringLiteral("%1 cannot be reached").arg(TargetText(t)));
-  const QPointF local = reached->mapFrom(c, c->rect().center());
+  if (!reached) {
+    Error(QStringLiteral("%1 cannot be reached").arg(TargetText(t)));
+    return nullptr;
+  }
+  centre = reached->mapFrom(c, c->rect().center());
+  return reached;
+}
+
+void Driver::Click(const QString& text) {
+  QPointF local;
+  QWidget* reached = PointerAt(text, local);
+  if (!reached) return;
   const QPointF global = reached->mapToGlobal(local);
   QPointer<QWidget> guard(reached);
   QMouseEvent press(QEvent::MouseButtonPress, local, global, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
@@ -256,13 +290,9 @@ void Driver::Click(const QString& text) {
 }
 
 void Driver::Move(const QString& text) {
-  const Target t = ParseTarget(text, false);
-  if (!t.error.isEmpty()) return Error(t.error);
-  Control* c = t.ok ? form_.FindControl(t.name, t.index) : nullptr;
-  if (!c) return Error(QStringLiteral("no control %1").arg(text));
-  QWidget* reached = Reached(c);
-  if (!reached) return Error(QStringLiteral("%1 cannot be reached").arg(TargetText(t)));
-  const QPointF local = reached->mapFrom(c, c->rect().center());
+  QPointF local;
+  QWidget* reached = PointerAt(text, local);
+  if (!reached) return;
   QMouseEvent move(QEvent::MouseMove, local, reached->mapToGlobal(local), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
   QApplication::sendEvent(reached, &move);
 }
@@ -290,16 +320,16 @@ void Driver::Get(const QString& text) {
     if (t.prop == "Caption") return out_(head + form_.windowTitle());
     if (t.prop == "Width") return out_(head + QString::number(form_.width() * kTwipsPerPixel));
     if (t.prop == "Height") return out_(head + QString::number(form_.height() * kTwipsPerPixel));
-    if (t.prop == "Visible") return out_(head + Bool(form_.isVisible()));
+    if (t.prop == "Visible") return out_(head + varfmt::Format(form_.isVisible()));
     return Error(QStringLiteral("JeuPoker has no property %1").arg(t.prop));
   }
   if (t.name == "Coach" && t.index < 0) {
-    if (t.prop == "Visible") return out_(head + Bool(form_.CoachVisible()));
+    if (t.prop == "Visible") return out_(head + varfmt::Format(form_.CoachVisible()));
     return Error(QStringLiteral("Coach has no property %1").arg(t.prop));
   }
   if (TimerControl* timer = t.index < 0 ? form_.FindTimer(t.name) : nullptr) {
     if (t.prop == "Interval") return out_(head + QString::number(timer->Interval()));
-    if (t.prop == "Enabled") return out_(head + Bool(timer->Enabled()));
+    if (t.prop == "Enabled") return out_(head + varfmt::Format(timer->Enabled()));
     return Error(QStringLiteral("%1 has no property %2").arg(t.name, t.prop));
   }
   Control* c = form_.FindControl(t.name, t.index);
@@ -307,9 +337,9 @@ void Driver::Get(const QString& text) {
   const QString& p = t.prop;
   QString v;
   if (p == "Caption")
-    v = Escape(c->Caption());
+    v = varfmt::Escape(c->Caption());
   else if (p == "Visible")
-    v = Bool(c->Visible());
+    v = varfmt::Format(c->Visible());
   else if (p == "Left")
     v = QString::number(c->Left());
   else if (p == "Top")
@@ -329,17 +359,19 @@ void Driver::Get(const QString& text) {
   else if (p == "BevelWidth")
     v = QString::number(c->BevelWidth());
   else if (p == "Enabled")
-    v = Bool(c->Enabled());
+    v = varfmt::Format(c->Enabled());
   else if (p == "Focus")
-    v = Bool(form_.focusWidget() == c);
+    v = varfmt::Format(form_.focusWidget() == c);
   else if ((p == "Address" || p == "Text") && c->findChild<WebPanel*>())
-    v = Escape(p == "Address" ? c->findChild<WebPanel*>()->Address() : c->findChild<WebPanel*>()->Text());
+    v = varfmt::Escape(p == "Address" ? c->findChild<WebPanel*>()->Address() : c->findChild<WebPanel*>()->Text());
   else
     return Error(QStringLiteral("unknown property %1").arg(p));
   out_(head + v);
 }
 
-void Driver::Var(const QString& text, bool set, const QString& value) {
+void Driver::Var(const QString& text) { VarOrSet(text, false, {}); }
+
+void Driver::VarOrSet(const QString& text, bool set, const QString& value) {
   const Target t = ParseTarget(text, false);
   if (!t.error.isEmpty()) return Error(t.error);
   const JeuPoker::Variable* v = t.ok ? form_.FindVariable(t.name) : nullptr;
@@ -363,6 +395,17 @@ void Driver::File(const QString& name) {
   if (!info.exists() || info.isDir()) return out_(name + " absent");
   if (!f.open(QIODevice::ReadOnly)) return Error(QStringLiteral("%1 cannot be read").arg(name));
   out_(name + "=" + QString::fromLatin1(f.readAll().toHex()));
+}
+
+void Driver::Coach(const QString& what) {
+  if (what.isEmpty())
+    out_(form_.LigneCoach());
+  else if (what == "session")
+    out_(form_.LigneSessionCoach());
+  else if (what.startsWith(QLatin1String("shot ")))
+    CoachShot(what.mid(5).trimmed());
+  else
+    Refuse(QStringLiteral("coach takes nothing, session or shot FILE"));
 }
 
 void Driver::CoachShot(const QString& file) {

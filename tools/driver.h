@@ -8,10 +8,11 @@
 #include <functional>
 #include <random>
 
-#include "services/platform.h"
+#include "tools/scripted_platform.h"
 
 class Control;
 class JeuPoker;
+class QPointF;
 class QWidget;
 
 // The scripted platform of talvero-drive. Once seeded (the `seed` command), the draws that the
@@ -20,7 +21,9 @@ class QWidget;
 class SeededPlatform : public ScriptedPlatform {
  public:
   void Seed(std::uint32_t seed);
-  int RandomInt(int n) override;
+
+ protected:
+  int UnqueuedDraw(int n) override;
 
  private:
   bool seeded_ = false;
@@ -38,14 +41,37 @@ class Driver {
 
  private:
   QWidget* Reached(Control* c) const;
+  // The widget that a player's pointer reaches at the centre of the control `target` names,
+  // and that centre in the widget's coordinates; null, with the error printed, when none.
+  QWidget* PointerAt(const QString& target, QPointF& centre);
+  // The handlers of the commands, each given the rest of its line.
   void Click(const QString& target);
   void Move(const QString& target);
   void Key(const QString& code);
+  void Tick(const QString& timer);
+  void Draw(const QString& numbers);
   void Get(const QString& target);
   // The table and the coach's window side by side, as PNG.
+  void Coach(const QString& what);
   void CoachShot(const QString& file);
-  void Var(const QString& target, bool set, const QString& value);
+  void Var(const QString& target);
+  void Set(const QString& targetAndValue);
+  void AtYield(const QString& countAndCommand);
+  void Unyield(const QString& nothing);
+  void Seed(const QString& seed);
+  void Slept(const QString& nothing);
   void File(const QString& name);
+  void Shot(const QString& name);
+  void Close(const QString& nothing);
+  void Mci(const QString& nothing);
+  void MciAnswer(const QString& keyAndValue);
+  void Display(const QString& nothing);
+  void Net(const QString& state);
+  void Wait(const QString& milliseconds);
+  // Reads a variable, or sets it from `value`.
+  void VarOrSet(const QString& target, bool set, const QString& value);
+  // Prints the error of a command that refuses its words (see Execute).
+  void Refuse(const QString& reason);
   void Error(const QString& reason);
   void FlushDrawErrors();
 
@@ -55,4 +81,6 @@ class Driver {
   std::size_t mciShown_ = 0;
   // Commands waiting for a yield run only if no `unyield` came since they were given.
   unsigned yieldGeneration_ = 0;
+  // Set by Refuse during the command being run.
+  bool refused_ = false;
 };

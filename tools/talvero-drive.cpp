@@ -10,7 +10,7 @@
 #include <string>
 
 #include "interface/JeuPoker.h"
-#include "interface/pictures_art.h"
+#include "interface/card_faces.h"
 #include "services/platform.h"
 #include "tools/driver.h"
 

@@ -120,6 +120,8 @@ class Window : public QWidget, public CoachWindow {
       s->attachAxis(axisX_);
       s->attachAxis(axisY_);
     }
+    axisX_->setRange(0, 10);
+    axisY_->setRange(0, top_ * 1.05);
     chart->legend()->setAlignment(Qt::AlignBottom);
     chart->setMargins(QMargins(2, 2, 2, 2));
     chart_ = chart;
@@ -129,6 +131,7 @@ class Window : public QWidget, public CoachWindow {
     layout->addWidget(view, 2);
 
     resize(480, 740);
+    english_ = !record_->english;
     Update();
   }
 
@@ -172,43 +175,56 @@ class Window : public QWidget, public CoachWindow {
  private:
   QString T(const char* fr, const char* en) const { return QString::fromUtf8(record_->english ? en : fr); }
 
+  // Sets a label's text only when it changes, so that nothing else is laid out or painted.
+  static void Set(QLabel* l, const QString& text) {
+    if (l->text() != text) l->setText(text);
+  }
+
+  // Brings the window up to the record, touching only what changed since the last time: a hold
+  // click repaints two rows of the table and one label.
   void Update() {
     const Record& r = *record_;
-    back_->setText(T("Revenir à la main en cours", "Back to the hand in play"));
-    session_->setTitle(T("Session", "Session"));
-    mistakesTitle_->setText(T("Dernières erreurs (double-clic : revoir)", "Last mistakes (double-click: review)"));
-    holds_->setHorizontalHeaderLabels(
-        {T("Cartes gardées", "Cards held"), T("Espérance", "Expected"), T("Paie", "Pays")});
-    credit_->setName(T("Crédit", "Credit"));
-    lost_->setName(T("Perte espérée des erreurs", "Expected loss to mistakes"));
-    chart_->setTitle(T("Après chaque tirage", "After each drawing"));
+    if (english_ != r.english) {
+      english_ = r.english;
+      back_->setText(T("Revenir à la main en cours", "Back to the hand in play"));
+      session_->setTitle(T("Session", "Session"));
+      mistakesTitle_->setText(T("Dernières erreurs (double-clic : revoir)", "Last mistakes (double-click: review)"));
+      holds_->setHorizontalHeaderLabels(
+          {T("Cartes gardées", "Cards held"), T("Espérance", "Expected"), T("Paie", "Pays")});
+      credit_->setName(T("Crédit", "Credit"));
+      lost_->setName(T("Perte espérée des erreurs", "Expected loss to mistakes"));
+      chart_->setTitle(T("Après chaque tirage", "After each drawing"));
+      shownJudgement_ = nullptr;
+      shownTallies_.clear();
+      shownMistakes_ = -1;
+    }
 
     const bool review = shownMistake_ >= 0 && shownMistake_ < static_cast<int>(r.mistakes.size());
     back_->setVisible(review);
     if (review) {
       const Decision& d = r.mistakes[static_cast<std::size_t>(shownMistake_)];
-      heading_->setText(T("Erreur : ", "Mistake: ") + Hand(d.judgement));
-      detail_->setText(Verdict(d));
-      ShowHolds(d.judgement, d.played);
+      Set(heading_, T("Erreur : ", "Mistake: ") + Hand(d.judgement));
+      Set(detail_, Verdict(d));
+      ShowHolds(&d.judgement, d.played);
     } else if (r.phase == Phase::Between) {
       const Judgement& j = r.current;
-      heading_->setText(T("Entre les tirages : ", "Between the drawings: ") + Hand(j) + T(", mise ", ", bet ") +
+      Set(heading_, T("Entre les tirages : ", "Between the drawings: ") + Hand(j) + T(", mise ", ", bet ") +
                         QString::number(j.mise));
       const double diff = j.Cost(r.held);
-      detail_->setText(T("Votre choix ", "Your hold ") + Held(j, r.held) + " : " + Credits(j.Of(r.held).ev) + "\n" +
+      Set(detail_, T("Votre choix ", "Your hold ") + Held(j, r.held) + " : " + Credits(j.Of(r.held).ev) + "\n" +
                        T("Le meilleur ", "The best ") + Held(j, j.Best().held) + " : " + Credits(j.Best().ev) + "\n" +
                        (diff > 0 ? T("Écart : ", "Difference: ") + Credits(diff) + T(" crédits", " credits")
                                  : T("Votre choix est le meilleur.", "Your hold is the best.")));
-      ShowHolds(j, r.held);
+      ShowHolds(&j, r.held);
     } else if (r.phase == Phase::Verdict) {
-      heading_->setText(T("Verdict : ", "Verdict: ") + Hand(r.last.judgement));
-      detail_->setText(Verdict(r.last));
-      ShowHolds(r.last.judgement, r.last.played);
+      Set(heading_, T("Verdict : ", "Verdict: ") + Hand(r.last.judgement));
+      Set(detail_, Verdict(r.last));
+      ShowHolds(&r.last.judgement, r.last.played);
     } else {
-      heading_->setText(T("Rien à juger pour l'instant", "Nothing to judge now"));
-      detail_->setText(T("Le coach juge chaque choix entre les deux tirages du JEU 1.",
-                         "The coach judges every hold between the two drawings of JEU 1."));
-      ShowHolds(Judgement{}, 0);
+      Set(heading_, T("Rien à juger pour l'instant", "Nothing to judge now"));
+      Set(detail_, T("Le coach juge chaque choix entre les deux tirages du JEU 1.",
+                     "The coach judges every hold between the two drawings of JEU 1."));
+      ShowHolds(nullptr, 0);
     }
     ShowSession(r);
     ShowChart(r);
@@ -222,14 +238,18 @@ class Window : public QWidget, public CoachWindow {
            Held(d.judgement, d.judgement.Best().held);
   }
 
-  void ShowHolds(const Judgement& j, unsigned marked) {
+  // The 32 holds of `j` (none when null), the row of `marked` pointed at, the best in green.
+  void ShowHolds(const Judgement* j, unsigned marked) {
+    const bool same = j == shownJudgement_ && (!j || (j->hand == shownHand_ && j->mise == shownMise_));
     for (int r = 0; r < coach::kHolds; ++r) {
-      const coach::HoldValue& h = j.holds[static_cast<std::size_t>(r)];
-      const bool mine = j.valid && h.held == marked;
-      const bool best = j.valid && coach::EquallyRight(h.ev, j.Best().ev);
+      const coach::HoldValue* h = j && j->valid ? &j->holds[static_cast<std::size_t>(r)] : nullptr;
+      const bool wasMine = same && h && h->held == shownMarked_;
+      const bool mine = h && h->held == marked;
+      if (same && wasMine == mine) continue;
+      const bool best = h && coach::EquallyRight(h->ev, j->Best().ev);
       const QString texts[3] = {
-          j.valid ? (mine ? QStringLiteral("\u25b6 ") : QStringLiteral("   ")) + Held(j, h.held) : QString(),
-          j.valid ? Credits(h.ev) : QString(), j.valid ? QString::number(100 * h.pays, 'f', 1) + " %" : QString()};
+          h ? (mine ? QStringLiteral("\u25b6 ") : QStringLiteral("   ")) + Held(*j, h->held) : QString(),
+          h ? Credits(h->ev) : QString(), h ? QString::number(100 * h->pays, 'f', 1) + " %" : QString()};
       for (int c = 0; c < 3; ++c) {
         QTableWidgetItem* item = holds_->item(r, c);
         item->setText(texts[c]);
@@ -239,6 +259,12 @@ class Window : public QWidget, public CoachWindow {
         item->setBackground(best ? QColor(0xd8, 0xf0, 0xd0) : mine ? QColor(0xf8, 0xe0, 0xc0) : QColor(Qt::white));
       }
     }
+    shownJudgement_ = j;
+    if (j) {
+      shownHand_ = j->hand;
+      shownMise_ = j->mise;
+    }
+    shownMarked_ = marked;
   }
 
   QString TallyText(const coach::Tally& t) const {
@@ -251,32 +277,44 @@ class Window : public QWidget, public CoachWindow {
   }
 
   void ShowSession(const Record& r) {
-    tallies_->setText("<b>" + T("Vos choix", "Your holds") + "</b><br>" + TallyText(r.player) + "<br><b>" +
-                      T("Mode automatique", "Automatic mode") + "</b><br>" + TallyText(r.automatic));
-    if (shownMistakes_ != r.changes || mistakes_->count() != static_cast<int>(r.mistakes.size())) {
+    const QString tallies = "<b>" + T("Vos choix", "Your holds") + "</b><br>" + TallyText(r.player) + "<br><b>" +
+                            T("Mode automatique", "Automatic mode") + "</b><br>" + TallyText(r.automatic);
+    if (tallies != shownTallies_) {
+      tallies_->setText(tallies);
+      shownTallies_ = tallies;
+    }
+    const long long mistakes = r.player.mistakes + r.automatic.mistakes;
+    if (shownMistakes_ != mistakes) {
       mistakes_->clear();
       for (const Decision& d : r.mistakes)
         mistakes_->addItem(Hand(d.judgement) + "  " + Held(d.judgement, d.played) + " \u2192 " +
                            Held(d.judgement, d.judgement.Best().held) + "  -" + Credits(d.cost));
-      shownMistakes_ = r.changes;
+      shownMistakes_ = mistakes;
     }
   }
 
   void ShowChart(const Record& r) {
+    if (static_cast<std::size_t>(credit_->count()) == r.chart.size()) return;
     for (std::size_t i = static_cast<std::size_t>(credit_->count()); i < r.chart.size(); ++i) {
       credit_->append(static_cast<double>(i + 1), r.chart[i].credit);
       lost_->append(static_cast<double>(i + 1), r.chart[i].lost);
+      top_ = std::max({top_, r.chart[i].credit, r.chart[i].lost});
     }
-    double top = 10;
-    for (const coach::ChartPoint& p : r.chart) top = std::max({top, p.credit, p.lost});
     axisX_->setRange(0, std::max<double>(10, static_cast<double>(r.chart.size())));
-    axisY_->setRange(0, top * 1.05);
+    axisY_->setRange(0, top_ * 1.05);
   }
 
   const Record* record_;
   bool pending_ = false;
-  int shownMistake_ = -1;
+  int shownMistake_ = -1;  // the mistake under review, -1 none
+  bool english_ = false;
+  const Judgement* shownJudgement_ = nullptr;  // what the table of holds shows
+  std::array<std::uint8_t, 5> shownHand_{};
+  int shownMise_ = 0;
+  unsigned shownMarked_ = 0;
+  QString shownTallies_;
   long long shownMistakes_ = -1;
+  double top_ = 10;
   QLabel* heading_;
   QLabel* detail_;
   QTableWidget* holds_;

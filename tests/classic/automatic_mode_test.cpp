@@ -199,8 +199,8 @@ TEST(AutomaticMode, GridTurnsDownPositionsOutOfPlay) {
   ASSERT_EQ(f.NbTirées, 25);
   int down = 0;
   for (int p = 0; p <= 24; ++p) {
-    EXPECT_EQ(options::FaceDown(f, f.Deal2(p)), !f.LignesJouées(p)) << p;
-    down += options::FaceDown(f, f.Deal2(p));
+    EXPECT_EQ(FaceDown(f, f.Deal2(p)), !f.LignesJouées(p)) << p;
+    down += FaceDown(f, f.Deal2(p));
   }
   EXPECT_GE(down, 20);
   for (int p = 0; p <= 3; ++p) EXPECT_TRUE(f.LignesJouées(p)) << p;

@@ -4,8 +4,6 @@
 
 #include "tests/classic/holds_helpers.h"
 
-using holds::Code;
-
 namespace {
 
 constexpr long long kBlinkMs = 7 * (40 + 150);

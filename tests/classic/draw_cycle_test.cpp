@@ -3,10 +3,9 @@
 // JOUER click arriving in the middle of a drawing.
 #include <gtest/gtest.h>
 
-#include <QFile>
 #include <set>
 
-#include "tests/support/harness.h"
+#include "tests/support/helpers.h"
 
 namespace {
 
@@ -28,8 +27,6 @@ const QString kLostEn = "No more credit ! Click on the icon up on the right hand
 const QString kLostFr =
     "Crédit épuisé ! Cliquez sur l'icône situé en haut à droite de l'écran pour une nouvelle partie.";
 
-bool English(const JeuPoker& f) { return f.Langue == 0 || f.Langue == 2; }
-
 // Hold words by letter: H holds, R rejects.
 void Holds(Harness& h, const QString& pattern) {
   JeuPoker& f = *h.form;
@@ -39,7 +36,6 @@ void Holds(Harness& h, const QString& pattern) {
   }
 }
 
-bool FaceDown(const JeuPoker& f, int i) { return f.Deal(i).GetPicture() == f.Cartes(54).GetPicture(); }
 bool Shows(const JeuPoker& f, int i, int code) { return f.Deal(i).GetPicture() == f.Cartes(code).GetPicture(); }
 
 // What must hold between any two steps of a classic round.
@@ -58,7 +54,7 @@ void CheckInvariants(Harness& h) {
     EXPECT_LT(c, f.TailleJeu);
   }
   for (int i = 0; i <= 4; ++i) {
-    if (!FaceDown(f, i)) {
+    if (!FaceDown(f, f.Deal(i))) {
       EXPECT_TRUE(Shows(f, i, f.CartesTirage(i))) << "position " << i;
     }
   }
@@ -83,12 +79,6 @@ QStringList Play(Harness& h, const QStringList& commands) {
     CheckInvariants(h);
   }
   return out;
-}
-
-void WriteIni(Harness& h, char byte) {
-  QFile f(h.dir.filePath("Ini.dat"));
-  ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-  f.write(&byte, 1);
 }
 
 // ---- The first drawing ------------------------------------------------------------------

@@ -3,24 +3,11 @@
 #pragma once
 
 #include <array>
-#include <stdexcept>
 #include <string>
 
-#include "tests/support/harness.h"
+#include "tests/support/helpers.h"
 
 namespace holds {
-
-// "KS" = king of spades, "TD" = ten of diamonds, "X1" = code 52, "X2" = code 53.
-inline int Code(const std::string& card) {
-  if (card == "X1") return 52;
-  if (card == "X2") return 53;
-  const std::string ranks = "23456789TJQKA";
-  const std::string suits = "CDHS";
-  const auto r = ranks.find(card.at(0));
-  const auto s = suits.find(card.at(1));
-  if (card.size() != 2 || r == std::string::npos || s == std::string::npos) throw std::invalid_argument(card);
-  return static_cast<int>(13 * s + r);
-}
 
 // Five cards in position order, "2C 3D 4H 5S 9C".
 inline std::array<int, 5> Hand(const std::string& text) {

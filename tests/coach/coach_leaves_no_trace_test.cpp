@@ -65,8 +65,8 @@ QStringList Stream(bool coach) {
 }
 
 TEST(CoachLeavesNoTrace, TheSameStreamGivesTheSameGame) {
-  const coachtest::ToolRun plain = coachtest::RunDrive(Stream(false));
-  const coachtest::ToolRun withCoach = coachtest::RunDrive(Stream(true), {"--coach"});
+  const ToolRun plain = RunTool(Stream(false));
+  const ToolRun withCoach = RunTool(Stream(true), {"--coach"});
   QStringList kept;
   int coachLines = 0;
   for (const QString& l : withCoach.lines)

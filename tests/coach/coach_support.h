@@ -1,35 +1,15 @@
-// Helpers of the coach's tests: the real talvero-drive on a script, and a deal laid through the
-// real form with the manual selection.
+// Helpers of the coach's tests: a deal laid and played through the real form with the manual
+// selection, and the fields of the session's line.
 #pragma once
 
 #include <gtest/gtest.h>
 
-#include <QProcess>
 #include <QStringList>
 
 #include "tests/support/harness.h"
+#include "tests/support/helpers.h"
 
 namespace coachtest {
-
-struct ToolRun {
-  QStringList lines;
-  int exitCode = -1;
-};
-
-// Runs the real tool with these commands on standard input; its standard output, a line each.
-inline ToolRun RunDrive(const QStringList& commands, const QStringList& args = {}) {
-  QProcess p;
-  p.setProcessChannelMode(QProcess::SeparateChannels);
-  p.start(QStringLiteral(TALVERO_DRIVE), args);
-  EXPECT_TRUE(p.waitForStarted(10000));
-  p.write((commands.join('\n') + '\n').toUtf8());
-  p.closeWriteChannel();
-  EXPECT_TRUE(p.waitForFinished(120000));
-  ToolRun r;
-  r.exitCode = p.exitCode();
-  r.lines = QString::fromUtf8(p.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts);
-  return r;
-}
 
 // One command through the harness that must print nothing.
 inline void Quiet(Harness& h, const QString& command) {

@@ -14,10 +14,10 @@
 #include "tests/coach/coach_support.h"
 #include "tests/interface/speech_helpers.h"
 
+using RunTool;
 using coachtest::Deal;
 using coachtest::Play;
 using coachtest::Quiet;
-using coachtest::RunDrive;
 
 namespace {
 
@@ -119,16 +119,15 @@ TEST(CoachWindow, FinEndsTheProgramWithTheCoachOpen) {
   ASSERT_TRUE(h.form->CoachVisible());
   h.Drive({"click Fin"});
   EXPECT_TRUE(h.ended);
-  const coachtest::ToolRun r = RunDrive({"get Coach.Visible", "click Fin", "var Capital"}, {"--coach"});
+  const ToolRun r = RunTool({"get Coach.Visible", "click Fin", "var Capital"}, {"--coach"});
   EXPECT_EQ(r.lines, (QStringList{"Coach.Visible=-1", "ended"}));
   EXPECT_EQ(r.exitCode, 0);
 }
 
 TEST(CoachDrive, PrintsIdleAHoldLineAndTheSession) {
-  const coachtest::ToolRun r =
-      RunDrive({"coach", "coach session", "click ParesseNon", "draw 11 24 29 46 13", "click Jouer", "click Deal(0)",
-                "coach", "coach bogus", "key 113", "get Coach.Visible", "click Deal(1)", "draw 0 1 2", "click Jouer",
-                "coach", "coach session"});
+  const ToolRun r = RunTool({"coach", "coach session", "click ParesseNon", "draw 11 24 29 46 13", "click Jouer",
+                             "click Deal(0)", "coach", "coach bogus", "key 113", "get Coach.Visible", "click Deal(1)",
+                             "draw 0 1 2", "click Jouer", "coach", "coach session"});
   ASSERT_EQ(r.lines.size(), 7) << r.lines.join('\n').toStdString();
   EXPECT_EQ(r.lines[0], "coach=idle");
   EXPECT_EQ(r.lines[1], "coach-session=decisions 0 mistakes 0 lost 0.000000 auto 0 automistakes 0 autolost 0.000000");
@@ -144,8 +143,8 @@ TEST(CoachDrive, PrintsIdleAHoldLineAndTheSession) {
 TEST(CoachDrive, ShotPutsTheCoachBesideTheTable) {
   QTemporaryDir dir;
   const QString file = QDir(dir.path()).filePath("coach.png");
-  EXPECT_EQ(RunDrive({"coach shot " + file}).lines, QStringList{"error: the coach is not open"});
-  const coachtest::ToolRun r = RunDrive({"key 113", "coach shot " + file});
+  EXPECT_EQ(RunTool({"coach shot " + file}).lines, QStringList{"error: the coach is not open"});
+  const ToolRun r = RunTool({"key 113", "coach shot " + file});
   EXPECT_TRUE(r.lines.isEmpty()) << r.lines.join('\n').toStdString();
   const QImage shot(file);
   ASSERT_FALSE(shot.isNull());

@@ -7,21 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "tests/support/harness.h"
+#include "tests/support/helpers.h"
 
 namespace {
-
-// "KS" = king of spades, "TD" = ten of diamonds, "X1" = code 52, "X2" = code 53.
-int Code(const std::string& card) {
-  if (card == "X1") return 52;
-  if (card == "X2") return 53;
-  const std::string ranks = "23456789TJQKA";
-  const std::string suits = "CDHS";
-  const auto r = ranks.find(card.at(0));
-  const auto s = suits.find(card.at(1));
-  if (r == std::string::npos || s == std::string::npos) throw std::invalid_argument(card);
-  return static_cast<int>(13 * s + r);
-}
 
 std::array<Byte, 5> Hand(const std::string& text) {
   std::array<Byte, 5> h{};

@@ -1,17 +1,9 @@
 // A new game and the reset at the start of each classic round.
 #include <gtest/gtest.h>
 
-#include <QFile>
-
-#include "tests/support/harness.h"
+#include "tests/support/helpers.h"
 
 namespace {
-
-void WriteIni(Harness& h, char byte) {
-  QFile f(h.dir.filePath("Ini.dat"));
-  ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-  f.write(&byte, 1);
-}
 
 const Long kTable0[10] = {1, 2, 5, 7, 10, 30, 100, 250, 750, 1000};
 const Long kTable1[10] = {1, 2, 4, 5, 7, 12, 40, 100, 500, 1000};

@@ -17,7 +17,6 @@
 namespace grid {
 
 using options::Click;
-using options::FaceDown;
 using options::kBlinkMs;
 using options::Watch;
 
@@ -257,7 +256,6 @@ inline const Text kLostNoCredit{
     "YOU LOST ! WARNING ! No more credit ! Click on the icon up on the right handside of the screen for a new game.",
     "PERDU ! Crédit épuisé ! Cliquez sur l'icône situé en haut à droite de l'écran pour une nouvelle partie."};
 
-inline bool English(const JeuPoker& f) { return f.Langue == 0 || f.Langue == 2; }
 inline QString Say(const JeuPoker& f, const Text& t) { return QString::fromUtf8(English(f) ? t.en : t.fr); }
 inline QString ClassName(const JeuPoker& f, int cls) {
   return QString::fromUtf8(English(f) ? kNamesEn[cls] : kNamesFr[cls]);

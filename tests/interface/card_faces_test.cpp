@@ -1,11 +1,13 @@
 // The card faces' worker: the back drawn from a document holding only the back, the faces
 // drawn from the whole deck, the same pictures either way, and nothing drawn twice.
+#include "interface/card_faces.h"
+
 #include <gtest/gtest.h>
 
 #include <QImage>
 #include <QSvgRenderer>
 
-#include "interface/pictures_art.h"
+#include "interface/deck_svg.h"
 #include "tests/support/harness.h"
 
 namespace {

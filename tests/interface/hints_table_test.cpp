@@ -177,10 +177,10 @@ TEST_P(HintsTable, GridControls) {
   Expect("Mains5(12)", H(28) + "\r240");
   Expect("Gains5(12)", H(28) + "\r240");
   // Between the drawings a grid card tells whether it is turned down.
-  ASSERT_FALSE(options::FaceDown(f, f.Deal2(0)));
+  ASSERT_FALSE(FaceDown(f, f.Deal2(0)));
   Expect("Deal2(0)", H(3));
   Click(h, "Deal2(0)");
-  ASSERT_TRUE(options::FaceDown(f, f.Deal2(0)));
+  ASSERT_TRUE(FaceDown(f, f.Deal2(0)));
   Expect("Deal2(0)", H(2));
   Click(h, "Deal2(0)");
   Expect("SSAireJeu5", H(24));

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/support/harness.h"
+#include "tests/support/helpers.h"
 
 namespace options {
 
@@ -81,8 +81,6 @@ inline void ExpectPanelAtRest(const JeuPoker& f, int jokers) {
     EXPECT_EQ(f.Fractions(i).Caption(), kCounts[i][jokers]);
   }
 }
-
-inline bool FaceDown(const JeuPoker& f, const Control& card) { return card.GetPicture() == f.Cartes(54).GetPicture(); }
 
 inline bool GridCovered(const JeuPoker& f) {
   for (int p = 0; p <= 24; ++p)

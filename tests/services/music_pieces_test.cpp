@@ -8,6 +8,7 @@
 #include <cmath>
 
 #include "services/music.h"
+#include "services/synthesizer.h"
 
 namespace {
 

@@ -2,7 +2,7 @@
 // that are not MIDI.
 #include <gtest/gtest.h>
 
-#include "services/music.h"
+#include "services/midi_file.h"
 #include "tests/services/music_support.h"
 
 using music_test::OneNoteFile;

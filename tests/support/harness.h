@@ -7,8 +7,8 @@
 #include <memory>
 
 #include "interface/JeuPoker.h"
-#include "services/platform.h"
 #include "tools/driver.h"
+#include "tools/scripted_platform.h"
 
 // One QApplication for the whole test binary.
 QApplication& TestApp();

@@ -1,7 +1,7 @@
 // The test binary's entry point.
 #include <gtest/gtest.h>
 
-#include "interface/pictures_art.h"
+#include "interface/card_faces.h"
 
 int main(int argc, char** argv) {
   ::testing::InitGoogleTest(&argc, argv);

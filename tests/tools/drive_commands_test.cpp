@@ -1,9 +1,7 @@
 // talvero-drive's commands and output format, in process and as the real tool.
 #include <gtest/gtest.h>
 
-#include <QProcess>
-
-#include "tests/support/harness.h"
+#include "tests/support/helpers.h"
 
 TEST(Drive, GetPrintsNameIndexPropertyAndValue) {
   Harness h;
@@ -155,27 +153,6 @@ TEST(Drive, UnknownCommandsAreErrorsAndTheToolGoesOn) {
   EXPECT_EQ(h.Drive1("jump"), "error: unknown command jump");
   EXPECT_EQ(h.Drive1("var Capital"), "Capital=200");
 }
-
-namespace {
-// Runs the real tool with these commands on standard input.
-struct ToolRun {
-  QStringList lines;
-  int exitCode = -1;
-};
-
-ToolRun RunTool(const QStringList& commands, const QStringList& args = {}) {
-  QProcess p;
-  p.start(QStringLiteral(TALVERO_DRIVE), args);
-  EXPECT_TRUE(p.waitForStarted(10000));
-  p.write((commands.join('\n') + '\n').toUtf8());
-  p.closeWriteChannel();
-  EXPECT_TRUE(p.waitForFinished(60000));
-  ToolRun r;
-  r.exitCode = p.exitCode();
-  r.lines = QString::fromUtf8(p.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts);
-  return r;
-}
-}  // namespace
 
 TEST(DriveTool, AnswersOneLineACommandAndEndsOnFin) {
   const ToolRun r =

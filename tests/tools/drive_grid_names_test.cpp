@@ -2,25 +2,12 @@
 // switch by name, as the real tool.
 #include <gtest/gtest.h>
 
-#include <QProcess>
-
 #include "tests/interface/options_helpers.h"
+#include "tests/support/helpers.h"
 
 using namespace options;
 
 namespace {
-
-// Runs the real tool with these commands on standard input and returns its lines.
-QStringList RunTool(const QStringList& commands) {
-  QProcess p;
-  p.start(QStringLiteral(TALVERO_DRIVE), QStringList{});
-  EXPECT_TRUE(p.waitForStarted(10000));
-  p.write((commands.join('\n') + '\n').toUtf8());
-  p.closeWriteChannel();
-  EXPECT_TRUE(p.waitForFinished(60000));
-  EXPECT_EQ(p.exitCode(), 0);
-  return QString::fromUtf8(p.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts);
-}
 
 QString Draw(const std::vector<int>& codes) {
   QStringList parts{"draw"};
@@ -29,11 +16,11 @@ QString Draw(const std::vector<int>& codes) {
 }
 
 TEST(DriveReachesGrid, GridVariablesAndControlsAtStart) {
-  const QStringList out =
-      RunTool({"click SSLangue(0)", "var MainsLignes(0)", "var MainsLignes(11)", "var GainTirage",
-               "var LignesJouées(3)", "var IndexLigne(0)", "var CarteChoisie", "var NomsMains(10)", "var NomsMains(6)",
-               "get Deal2(24).Picture", "get UnADouzeTémoin(11).BackColor", "get UnADouzeTémoin(0).BackColor",
-               "get SSAireJeu5.Visible", "var MainsLignes(12)", "var NomsMains(11)", "close"});
+  const QStringList out = RunToolLines(
+      {"click SSLangue(0)", "var MainsLignes(0)", "var MainsLignes(11)", "var GainTirage", "var LignesJouées(3)",
+       "var IndexLigne(0)", "var CarteChoisie", "var NomsMains(10)", "var NomsMains(6)", "get Deal2(24).Picture",
+       "get UnADouzeTémoin(11).BackColor", "get UnADouzeTémoin(0).BackColor", "get SSAireJeu5.Visible",
+       "var MainsLignes(12)", "var NomsMains(11)", "close"});
   EXPECT_EQ(out, (QStringList{"MainsLignes(0)=0", "MainsLignes(11)=0", "GainTirage=0", "LignesJouées(3)=0",
                               "IndexLigne(0)=0", "CarteChoisie=0", "NomsMains(10)=NOTHING", "NomsMains(6)=4 of KIND",
                               "Deal2(24).Picture=Cartes(54)", "UnADouzeTémoin(11).BackColor=8421504",
@@ -43,17 +30,18 @@ TEST(DriveReachesGrid, GridVariablesAndControlsAtStart) {
 }
 
 TEST(DriveReachesGrid, SetReachesTheGridVariables) {
-  const QStringList out = RunTool({"set MainsLignes(4) 6", "var MainsLignes(4)", "set GainTirage 123", "var GainTirage",
-                                   "set LignesJouées(24) -1", "var LignesJouées(24)", "set IndexLigne(2) 17",
-                                   "var IndexLigne(2)", "set CarteChoisie 9", "var CarteChoisie", "close"});
+  const QStringList out =
+      RunToolLines({"set MainsLignes(4) 6", "var MainsLignes(4)", "set GainTirage 123", "var GainTirage",
+                    "set LignesJouées(24) -1", "var LignesJouées(24)", "set IndexLigne(2) 17", "var IndexLigne(2)",
+                    "set CarteChoisie 9", "var CarteChoisie", "close"});
   EXPECT_EQ(out, (QStringList{"MainsLignes(4)=6", "GainTirage=123", "LignesJouées(24)=-1", "IndexLigne(2)=17",
                               "CarteChoisie=9", "ended"}));
 }
 
 TEST(DriveReachesGrid, TitleTimerTicksByName) {
   const QStringList out =
-      RunTool({"get TitreImage(1).Picture", "get TitreImage(2).Picture", "tick TitreTimer", "get TitreImage(0).Picture",
-               "tick TitreTimer", "get TitreImage(0).Picture", "close"});
+      RunToolLines({"get TitreImage(1).Picture", "get TitreImage(2).Picture", "tick TitreTimer",
+                    "get TitreImage(0).Picture", "tick TitreTimer", "get TitreImage(0).Picture", "close"});
   ASSERT_EQ(out.size(), 5);
   const QString first = out[0].section('=', 1);
   const QString second = out[1].section('=', 1);
@@ -65,29 +53,29 @@ TEST(DriveReachesGrid, TitleTimerTicksByName) {
 }
 
 TEST(DriveReachesGrid, FirstGridDrawingThroughTheTool) {
-  const QStringList out = RunTool({"click SSLangue(0)",
-                                   "click Jeu3D",
-                                   "get Jeu3D.BevelWidth",
-                                   "get SSAireJeu5.Visible",
-                                   Draw(kGridFourKings),
-                                   "click Jouer",
-                                   "var NbTirées",
-                                   "var Capital",
-                                   "get Cartes2(11).Picture",
-                                   "get Deal2(0).Picture",
-                                   "get Cartes2(22).Picture",
-                                   "get Deal2(24).Picture",
-                                   "var GainTirage",
-                                   "var MainsLignes(0)",
-                                   "get Mains5(0).Caption",
-                                   "get Gains5(0).Caption",
-                                   "get Gains5(12).Caption",
-                                   "var IndexLigne(4)",
-                                   "var LignesJouées(3)",
-                                   "var LignesJouées(4)",
-                                   "var CartesTirage(24)",
-                                   "get SSConseils5.Visible",
-                                   "close"});
+  const QStringList out = RunToolLines({"click SSLangue(0)",
+                                        "click Jeu3D",
+                                        "get Jeu3D.BevelWidth",
+                                        "get SSAireJeu5.Visible",
+                                        Draw(kGridFourKings),
+                                        "click Jouer",
+                                        "var NbTirées",
+                                        "var Capital",
+                                        "get Cartes2(11).Picture",
+                                        "get Deal2(0).Picture",
+                                        "get Cartes2(22).Picture",
+                                        "get Deal2(24).Picture",
+                                        "var GainTirage",
+                                        "var MainsLignes(0)",
+                                        "get Mains5(0).Caption",
+                                        "get Gains5(0).Caption",
+                                        "get Gains5(12).Caption",
+                                        "var IndexLigne(4)",
+                                        "var LignesJouées(3)",
+                                        "var LignesJouées(4)",
+                                        "var CartesTirage(24)",
+                                        "get SSConseils5.Visible",
+                                        "close"});
   ASSERT_EQ(out.size(), 19) << out.join('\n').toStdString();
   EXPECT_EQ(out[0], "Jeu3D.BevelWidth=1");
   EXPECT_EQ(out[1], "SSAireJeu5.Visible=-1");

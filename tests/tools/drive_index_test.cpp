@@ -1,22 +1,9 @@
 // talvero-drive refuses an index that does not fit a number, rather than taking it for 0.
 #include <gtest/gtest.h>
 
-#include <QProcess>
-
-#include "tests/support/harness.h"
+#include "tests/support/helpers.h"
 
 namespace {
-
-QStringList RunTool(const QStringList& commands) {
-  QProcess p;
-  p.start(QStringLiteral(TALVERO_DRIVE), QStringList{});
-  EXPECT_TRUE(p.waitForStarted(10000));
-  p.write((commands.join('\n') + '\n').toUtf8());
-  p.closeWriteChannel();
-  EXPECT_TRUE(p.waitForFinished(60000));
-  EXPECT_EQ(p.exitCode(), 0);
-  return QString::fromUtf8(p.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts);
-}
 
 const QString kHuge = QStringLiteral("99999999999999999999");
 
@@ -48,7 +35,7 @@ TEST(DriveIndex, TheLargestIndexThatFitsIsOnlyOutOfRange) {
 
 TEST(DriveIndex, TheToolReportsItAndGoesOn) {
   const QStringList out =
-      RunTool({"click Deal(" + kHuge + ")", "var NbTirées", "click Jouer", "var NbTirées", "close"});
+      RunToolLines({"click Deal(" + kHuge + ")", "var NbTirées", "click Jouer", "var NbTirées", "close"});
   EXPECT_EQ(out,
             (QStringList{"error: index " + kHuge + " does not fit a number", "NbTirées=0", "NbTirées=5", "ended"}));
 }

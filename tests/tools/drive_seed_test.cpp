@@ -2,22 +2,9 @@
 // that atyield left waiting.
 #include <gtest/gtest.h>
 
-#include <QProcess>
-
-#include "tests/support/harness.h"
+#include "tests/support/helpers.h"
 
 namespace {
-
-QStringList RunTool(const QStringList& commands) {
-  QProcess p;
-  p.start(QStringLiteral(TALVERO_DRIVE), QStringList{});
-  EXPECT_TRUE(p.waitForStarted(10000));
-  p.write((commands.join('\n') + '\n').toUtf8());
-  p.closeWriteChannel();
-  EXPECT_TRUE(p.waitForFinished(60000));
-  EXPECT_EQ(p.exitCode(), 0);
-  return QString::fromUtf8(p.readAllStandardOutput()).split('\n', Qt::SkipEmptyParts);
-}
 
 QStringList Round(const QString& seed) {
   QStringList cmds{"seed " + seed, "click Jouer", "click Jouer", "click Double1X5", "click Deal(2)"};
@@ -25,7 +12,7 @@ QStringList Round(const QString& seed) {
   cmds << "var Capital"
        << "var GainMain"
        << "close";
-  return RunTool(cmds);
+  return RunToolLines(cmds);
 }
 
 TEST(DriveSeed, TheSameSeedDealsTheSameCards) {
@@ -34,13 +21,13 @@ TEST(DriveSeed, TheSameSeedDealsTheSameCards) {
 }
 
 TEST(DriveSeed, QueuedDrawsStillComeFirst) {
-  const QStringList out =
-      RunTool({"seed 7", "draw 12 25 38 51 0", "click Jouer", "var CartesTirage(0)", "var CartesTirage(3)", "close"});
+  const QStringList out = RunToolLines(
+      {"seed 7", "draw 12 25 38 51 0", "click Jouer", "var CartesTirage(0)", "var CartesTirage(3)", "close"});
   EXPECT_EQ(out, (QStringList{"CartesTirage(0)=12", "CartesTirage(3)=51", "ended"}));
 }
 
 TEST(DriveSeed, ABadSeedIsAnError) {
-  EXPECT_EQ(RunTool({"seed x", "seed 4294967296", "close"}),
+  EXPECT_EQ(RunToolLines({"seed x", "seed 4294967296", "close"}),
             (QStringList{"error: seed takes a whole number from 0 to 4294967295",
                          "error: seed takes a whole number from 0 to 4294967295", "ended"}));
 }
