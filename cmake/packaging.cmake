@@ -91,7 +91,9 @@ set(CPACK_DEBIAN_PACKAGE_DESCRIPTION [=[TALVERO is a single-player video poker g
 1024x768 window. JEU 1 is classic five-card draw with a pay table, a double-up
 and an automatic mode; JEU 2 lays 25 cards in a 5x5 grid whose twelve lines
 are each priced as a hand. Beside the pay table of JEU 1 a permanent panel
-counts, after every hold, how many draws make each hand class.
+counts, after every hold, how many draws make each hand class. A coach
+window (F2) gives the exact expected value of every hold, the verdict on each
+hold played and what the mistakes of the session cost.
 
 The package also holds talvero-odds, which gives the exact odds of the 32
 holds of a hand and the return of the classic game.]=])

@@ -11,6 +11,7 @@
 //   probability/  the panel's counts (one file per group of hand classes) and statistics
 //   interface/    this form, its controls and pictures, digit displays, alerts, language
 //                 tables, hints, game switch and options
+//   coach/        the coach beside the table: judges every hold of JEU 1 (link.cpp reads the form)
 //   services/     start-up and the settings file, music, display mode, web panels, and the
 //                 platform seam (services/platform.h) every call leaving the program goes through
 //

@@ -2,10 +2,10 @@
 # The Debian package a player installs: its name, what lintian, desktop-file-validate and
 # appstreamcli say of it, its contents and dependencies; unpacked anywhere (dpkg -x), the game
 # starts under Xvfb from usr/games with a fresh home, makes ~/.local/share/talvero with Ini.dat
-# there (or under XDG_DATA_HOME), says in one line when it cannot, finds its network library in
-# the unpacked tree, and changes nothing there. Then `cmake --install` under a prefix of our own
-# (and with DESTDIR) writes a desktop entry that starts the game installed there, and that game
-# starts and finds its network library.
+# there (or under XDG_DATA_HOME), says in one line when it cannot, finds its network library and
+# its coach's window (Qt Charts) in the unpacked tree, and changes nothing there. Then
+# `cmake --install` under a prefix of our own (and with DESTDIR) writes a desktop entry that
+# starts the game installed there, and that game starts and finds its network library.
 # Usage: debian_package.sh BUILD_DIR VERSION
 set -euo pipefail
 build=$1
@@ -36,7 +36,7 @@ echo "== $deb, $(stat -c %s "$deb") bytes"
 [ "$(dpkg-deb -f "$deb" Section)" = games ] || fail "the section is not games"
 depends=$(dpkg-deb -f "$deb" Depends)
 echo "Depends: $depends"
-for p in libqt6core6 libqt6gui6 libqt6widgets6 libqt6svg6 libqt6network6 qt6-qpa-plugins libfluidsynth3 \
+for p in libqt6core6 libqt6gui6 libqt6widgets6 libqt6svg6 libqt6network6 libqt6charts6 qt6-qpa-plugins libfluidsynth3 \
   timgm6mb-soundfont kdegames-card-data-kf5 fonts-liberation2; do
   grep -Eq "(^|, )$p( |,|$)" <<<"$depends" || fail "Depends lacks $p"
 done
@@ -54,7 +54,7 @@ for f in usr/games/talvero usr/games/talvero-odds usr/share/games/talvero/pub0.h
   usr/share/icons/hicolor/scalable/apps/talvero.svg usr/share/icons/hicolor/48x48/apps/talvero.png \
   usr/share/icons/hicolor/256x256/apps/talvero.png usr/share/man/man6/talvero.6.gz \
   usr/share/man/man6/talvero-odds.6.gz usr/share/doc/talvero/copyright usr/share/doc/talvero/changelog.gz \
-  usr/lib/games/talvero/libtalvero-network.so; do
+  usr/lib/games/talvero/libtalvero-network.so usr/lib/games/talvero/libtalvero-coach.so; do
   grep -qx "./$f" "$work/files.txt" || fail "the package lacks /$f"
 done
 [ "$(ls "$root"/usr/share/games/talvero/*.mid | wc -l)" -ge 3 ] || fail "fewer than three pieces"
@@ -90,7 +90,7 @@ run() {
   shift 2
   mkdir -p "$work/cwd"
   (cd "$work/cwd" && env -u XDG_DATA_HOME HOME="$home" TALVERO_NO_AUDIO=1 TALVERO_FIRST_FRAME_REPORT=1 \
-    QT_QPA_PLATFORM=xcb "$@" timeout 60 "$exe" >"$work/out" 2>"$work/err") &
+    QT_QPA_PLATFORM=xcb "$@" timeout 60 "$exe" ${game_args:-} >"$work/out" 2>"$work/err") &
   game=$!
   local status=0
   wait "$game" || status=$?
@@ -131,6 +131,11 @@ run "$root/usr/games/talvero" "$work/home4" TALVERO_PUBLISHER=http://127.0.0.1:9
   fail "with a publisher's server the game ended with $?"
 grep -q '^first-frame-ns=' "$work/out" || fail "with a publisher's server no frame was painted"
 if grep -q 'network library' "$work/err"; then cat "$work/err"; fail "the network library was not loaded"; fi
+
+# The coach opened at start: its window's library and Qt Charts load from the unpacked tree.
+game_args=--coach run "$root/usr/games/talvero" "$work/home5" || fail "with the coach the game ended with $?"
+grep -q '^first-frame-ns=' "$work/out" || fail "with the coach no frame was painted"
+if grep -q "coach's library" "$work/err"; then cat "$work/err"; fail "the coach's library was not loaded"; fi
 
 snapshot >"$work/after.txt"
 diff "$work/before.txt" "$work/after.txt" || fail "the unpacked tree changed"
