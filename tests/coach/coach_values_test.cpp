@@ -113,7 +113,7 @@ TEST(CoachTies, HoldsOfEqualValueAreEquallyRight) {
   FAIL() << "no deal with two equal best holds found";
 }
 
-TEST(CoachTies, ValuesWithinATolerancOfOneBillionthAreEqual) {
+TEST(CoachTies, ValuesWithinOneBillionthAreEqual) {
   EXPECT_TRUE(coach::EquallyRight(1.0, 1.0 + 0.5e-9));
   EXPECT_FALSE(coach::EquallyRight(1.0, 1.0 + 2e-9));
   coach::Judgement j;

@@ -14,7 +14,6 @@
 #include "tests/coach/coach_support.h"
 #include "tests/interface/speech_helpers.h"
 
-using RunTool;
 using coachtest::Deal;
 using coachtest::Play;
 using coachtest::Quiet;
