@@ -103,7 +103,7 @@ class Window : public QWidget, public CoachWindow {
     });
     mistakesColumn->addWidget(mistakes_, 1);
     sessionLayout->addLayout(mistakesColumn, 1);
-    layout->addWidget(session_, 2);
+    layout->addWidget(session_, 1);
 
     credit_ = new QLineSeries;
     lost_ = new QLineSeries;
@@ -113,6 +113,7 @@ class Window : public QWidget, public CoachWindow {
     axisX_ = new QValueAxis;
     axisY_ = new QValueAxis;
     axisX_->setLabelFormat(QStringLiteral("%d"));
+    axisX_->setTickCount(6);
     axisY_->setLabelFormat(QStringLiteral("%.0f"));
     chart->addAxis(axisX_, Qt::AlignBottom);
     chart->addAxis(axisY_, Qt::AlignLeft);
@@ -123,14 +124,13 @@ class Window : public QWidget, public CoachWindow {
     axisX_->setRange(0, 10);
     axisY_->setRange(0, top_ * 1.05);
     chart->legend()->setAlignment(Qt::AlignBottom);
-    chart->setMargins(QMargins(2, 2, 2, 2));
-    chart_ = chart;
+    for (QValueAxis* a : {axisX_, axisY_}) a->setTruncateLabels(false);
     auto* view = new QChartView(chart, this);
     view->setRenderHint(QPainter::Antialiasing);
-    view->setMinimumHeight(170);
+    view->setMinimumHeight(230);
     layout->addWidget(view, 2);
 
-    resize(480, 740);
+    resize(480, 768);
     english_ = !record_->english;
     Update();
   }
@@ -193,7 +193,7 @@ class Window : public QWidget, public CoachWindow {
           {T("Cartes gardées", "Cards held"), T("Espérance", "Expected"), T("Paie", "Pays")});
       credit_->setName(T("Crédit", "Credit"));
       lost_->setName(T("Perte espérée des erreurs", "Expected loss to mistakes"));
-      chart_->setTitle(T("Après chaque tirage", "After each drawing"));
+      axisX_->setTitleText(T("Tirages", "Drawings"));
       shownJudgement_ = nullptr;
       shownTallies_.clear();
       shownMistakes_ = -1;
@@ -287,8 +287,8 @@ class Window : public QWidget, public CoachWindow {
     if (shownMistakes_ != mistakes) {
       mistakes_->clear();
       for (const Decision& d : r.mistakes)
-        mistakes_->addItem(Hand(d.judgement) + "  " + Held(d.judgement, d.played) + " \u2192 " +
-                           Held(d.judgement, d.judgement.Best().held) + "  -" + Credits(d.cost));
+        mistakes_->addItem(Hand(d.judgement) + "  \u2212" + Credits(d.cost) + "\n" + Held(d.judgement, d.played) +
+                           " \u2192 " + Held(d.judgement, d.judgement.Best().held));
       shownMistakes_ = mistakes;
     }
   }
@@ -323,7 +323,6 @@ class Window : public QWidget, public CoachWindow {
   QLabel* tallies_;
   QListWidget* mistakes_;
   QLabel* mistakesTitle_;
-  QChart* chart_;
   QLineSeries* credit_;
   QLineSeries* lost_;
   QValueAxis* axisX_;
