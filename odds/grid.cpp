@@ -3,10 +3,8 @@
 #include <algorithm>
 #include <atomic>
 #include <bit>
-#include <chrono>
 #include <cmath>
 #include <numeric>
-#include <thread>
 
 #include "grid/line_rules.h"
 
@@ -363,24 +361,13 @@ GridReturnResult GridReturn(int jokers, int level, std::int64_t deals, std::uint
   std::vector<std::array<double, 2>> returns(grids.size());
   GameClassifier::Get();
   std::atomic<std::size_t> next{0}, done{0};
-  std::atomic<int> running{std::max(1, threads)};
-  auto work = [&] {
+  const auto work = [&](int) {
     for (std::size_t k; (k = next.fetch_add(1)) < grids.size(); done.fetch_add(1)) {
       const GridOdds o = AnalyseGrid(grids[k], jokers, level);
       returns[k] = {AdviceChoice(o).ev / level, BestChoice(o).ev / level};
     }
-    running.fetch_sub(1);
   };
-  std::vector<std::thread> pool;
-  for (int t = 0; t < std::max(1, threads); ++t) pool.emplace_back(work);
-  if (progress) {
-    while (running.load() > 0) {
-      progress(static_cast<double>(done.load()) / static_cast<double>(grids.size()));
-      std::this_thread::sleep_for(std::chrono::milliseconds(50));
-    }
-    progress(1.0);
-  }
-  for (auto& th : pool) th.join();
+  RunReporting(threads, work, done, grids.size(), progress);
 
   // Summed in the order of the grids, so that the figures do not depend on the threads.
   const auto estimate = [&](auto of) {
