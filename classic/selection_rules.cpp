@@ -111,7 +111,7 @@ void AppliqueRèglesSélection(const MainÉvaluée& m, ÉtatSélection& s, bool 
   }
 }
 
-unsigned SélectionAutomatique(const std::array<Byte, 5>& cartes) {
+unsigned GardesMain(const std::array<Byte, 5>& cartes, bool classeRien) {
   MainÉvaluée m;
   m.triée = cartes;
   ÉvalueMain(m);
@@ -123,9 +123,11 @@ unsigned SélectionAutomatique(const std::array<Byte, 5>& cartes) {
       if (cartes[j] == m.triée[i]) s.positions[i] = static_cast<Byte>(j);
   for (int i = 0; i <= 4; ++i)
     if (m.appariée[i]) s.gardées[s.positions[i]] = true;
-  AppliqueRèglesSélection(m, s, true);
+  AppliqueRèglesSélection(m, s, classeRien);
   unsigned held = 0;
   for (int i = 0; i <= 4; ++i)
     if (s.gardées[i]) held |= 1u << i;
   return held;
 }
+
+unsigned SélectionAutomatique(const std::array<Byte, 5>& cartes) { return GardesMain(cartes, true); }

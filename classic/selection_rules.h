@@ -19,6 +19,11 @@ struct ÉtatSélection {
 // cards (the classic game's automatic selection; the grid does without them).
 void AppliqueRèglesSélection(const MainÉvaluée& m, ÉtatSélection& s, bool classeRien);
 
+// The cards kept of five cards in position order, as Résultat and GardeCartes mark them after
+// a first drawing: bit i set when position i is kept. `classeRien` as above: the classic
+// game's automatic selection, or (false) a line of the grid between its drawings.
+unsigned GardesMain(const std::array<Byte, 5>& cartes, bool classeRien);
+
 // The holds the automatic selection gives five cards dealt in position order, as the first
 // drawing of the classic game leaves them: bit i set when position i is kept.
 unsigned SélectionAutomatique(const std::array<Byte, 5>& cartes);

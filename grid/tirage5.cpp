@@ -7,15 +7,11 @@
 // no other record of it. The animation yields at every step, so other handlers (a second
 // PLAY included) can run inside a drawing; nothing guards against it, as in the classic game.
 #include "core/table_facts.h"
+#include "grid/line_rules.h"
 #include "interface/JeuPoker.h"
 #include "services/platform.h"
 
-Byte JeuPoker::PositionLigne(int ligne, int j) {
-  if (ligne <= 5) return vb::CByte(5 * (ligne - 1) + j);
-  if (ligne <= 10) return vb::CByte(5 * j + (ligne - 6));
-  static constexpr Byte kDiagonales[2][5] = {{0, 6, 12, 18, 24}, {20, 16, 12, 8, 4}};
-  return kDiagonales[ligne - 11][j];
-}
+Byte JeuPoker::PositionLigne(int ligne, int j) { return PositionSurLigne(ligne, j); }
 
 bool JeuPoker::FaceCachée(int p) const { return Deal2(p).GetPicture() == Cartes(kDos).GetPicture(); }
 

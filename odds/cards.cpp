@@ -31,11 +31,12 @@ int ParseWord(const std::string& w) {
   return static_cast<int>(13 * (s - kSuits) + (r - kRanks));
 }
 
-}  // namespace
-
-bool ParseHand(const std::vector<std::string>& words, int jokers, Hand& hand, std::string& error) {
-  if (words.size() != 5) {
-    error = std::to_string(words.size()) + (words.size() == 1 ? " card" : " cards") + " given, a hand has five";
+// Distinct cards of the deck, as many as `what` has ("a hand has five").
+template <std::size_t N>
+bool ParseCards(const std::vector<std::string>& words, int jokers, const char* what, std::array<Byte, N>& out,
+                std::string& error) {
+  if (words.size() != N) {
+    error = std::to_string(words.size()) + (words.size() == 1 ? " card" : " cards") + " given, " + what;
     return false;
   }
   std::vector<int> codes;
@@ -66,8 +67,18 @@ bool ParseHand(const std::vector<std::string>& words, int jokers, Hand& hand, st
     }
     codes.push_back(code);
   }
-  for (int i = 0; i < 5; ++i) hand[i] = static_cast<Byte>(codes[i]);
+  for (std::size_t i = 0; i < N; ++i) out[i] = static_cast<Byte>(codes[i]);
   return true;
+}
+
+}  // namespace
+
+bool ParseHand(const std::vector<std::string>& words, int jokers, Hand& hand, std::string& error) {
+  return ParseCards(words, jokers, "a hand has five", hand, error);
+}
+
+bool ParseGrid(const std::vector<std::string>& words, int jokers, std::array<Byte, 25>& grid, std::string& error) {
+  return ParseCards(words, jokers, "a grid has 25", grid, error);
 }
 
 std::string CardName(Byte code) {

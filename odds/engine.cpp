@@ -538,7 +538,6 @@ ReturnResult ComputeReturn(const Tables& tables, const PayTable& pay, const Sele
   std::vector<Accumulator> perfect(static_cast<std::size_t>(threads)), chosen(static_cast<std::size_t>(threads));
   std::atomic<std::size_t> next{0};
   std::atomic<std::size_t> done{0};
-  std::atomic<int> running{threads};
   constexpr std::size_t kChunk = 256;
   auto work = [&](int worker) {
     std::array<Counts, kHolds> counts;
@@ -569,18 +568,8 @@ ReturnResult ComputeReturn(const Tables& tables, const PayTable& pay, const Sele
       }
       done.fetch_add(end - start);
     }
-    running.fetch_sub(1);
   };
-  std::vector<std::thread> pool;
-  for (int t = 0; t < threads; ++t) pool.emplace_back(work, t);
-  if (progress) {
-    while (running.load() > 0) {
-      progress(static_cast<double>(done.load()) / static_cast<double>(deals.size()));
-      std::this_thread::sleep_for(std::chrono::milliseconds(50));
-    }
-    progress(1.0);
-  }
-  for (auto& th : pool) th.join();
+  RunReporting(threads, work, done, deals.size(), progress);
 
   for (int t = 1; t < threads; ++t) {
     perfect[0].Merge(perfect[static_cast<std::size_t>(t)]);
@@ -590,6 +579,26 @@ ReturnResult ComputeReturn(const Tables& tables, const PayTable& pay, const Sele
   result.perfect = MakeFigures(perfect[0], denominator);
   if (automatic) result.automatic = MakeFigures(chosen[0], denominator);
   return result;
+}
+
+void RunReporting(int threads, const std::function<void(int)>& work, const std::atomic<std::size_t>& done,
+                  std::size_t total, const std::function<void(double)>& progress) {
+  threads = std::max(1, threads);
+  std::atomic<int> running{threads};
+  std::vector<std::thread> pool;
+  for (int t = 0; t < threads; ++t)
+    pool.emplace_back([&, t] {
+      work(t);
+      running.fetch_sub(1);
+    });
+  if (progress) {
+    while (running.load() > 0) {
+      progress(static_cast<double>(done.load()) / static_cast<double>(total));
+      std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    }
+    progress(1.0);
+  }
+  for (auto& th : pool) th.join();
 }
 
 std::string ToString(Int128 v) {

@@ -152,4 +152,9 @@ ReturnResult ComputeReturn(const Tables& tables, const PayTable& pay, const Sele
 
 std::string ToString(Int128 v);
 
+// Runs work(worker) on `threads` threads and joins them. Meanwhile, when `progress` is given,
+// it is called on the calling thread with done / total every 50 ms, and with 1 at the end.
+void RunReporting(int threads, const std::function<void(int)>& work, const std::atomic<std::size_t>& done,
+                  std::size_t total, const std::function<void(double)>& progress);
+
 }  // namespace odds

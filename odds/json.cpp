@@ -51,4 +51,28 @@ std::string FiguresJson(const Figures& f) {
   return s + "]}";
 }
 
+namespace {
+
+std::string ChoiceJson(const GridChoice& c) {
+  std::string s = "{\"down\":[";
+  bool first = true;
+  for (int p = 0; p < kGridPositions; ++p) {
+    if (!(c.down & (1u << p))) continue;
+    s += (first ? "" : ",") + std::to_string(p);
+    first = false;
+  }
+  s += "],\"ev\":" + Number(c.ev) + ",\"lines\":[";
+  for (std::size_t i = 0; i < c.lines.size(); ++i) s += (i ? "," : "") + Number(c.lines[i]);
+  return s + "]}";
+}
+
+}  // namespace
+
+std::string GridJson(const GridOdds& odds, const GridChoice& advice, const GridChoice& best) {
+  std::string s =
+      "{\"jokers\":" + std::to_string(odds.jokers) + ",\"level\":" + std::to_string(odds.level) + ",\"grid\":[";
+  for (int p = 0; p < kGridPositions; ++p) s += (p ? "," : "") + std::to_string(odds.grid[p]);
+  return s + "],\"advice\":" + ChoiceJson(advice) + ",\"best\":" + ChoiceJson(best) + "}";
+}
+
 }  // namespace odds

@@ -1,10 +1,12 @@
-// The JSON the odds tool writes: one object for the holds of a hand, one for a return.
+// The JSON the odds tool writes: one object for the holds of a hand, one for a return, one for
+// the choices of a grid.
 #pragma once
 
 #include <string>
 #include <vector>
 
 #include "odds/engine.h"
+#include "odds/grid.h"
 
 namespace odds {
 
@@ -14,6 +16,10 @@ std::string HandJson(int jokers, const Hand& hand, const std::vector<Hold>& hold
 
 // {"return":R,"fraction":"p/q","classes":[11]}
 std::string FiguresJson(const Figures& f);
+
+// {"jokers":J,"level":L,"grid":[25 codes],"advice":{"down":[positions],"ev":X,"lines":[one a
+// line in play]},"best":{...}}
+std::string GridJson(const GridOdds& odds, const GridChoice& advice, const GridChoice& best);
 
 // The shortest decimal that reads back as v.
 std::string Number(double v);

@@ -2,38 +2,11 @@
 // exit status 2 and nothing on standard output.
 #include <gtest/gtest.h>
 
-#include <QProcess>
-
-#include "tests/support/harness.h"
+#include "tests/tools/odds_process.h"
 
 namespace {
 
-struct Run {
-  int status;
-  QString out;
-  QString err;
-};
-
-Run Odds(const QStringList& args, const QByteArray& input = {}) {
-  TestApp();
-  QProcess p;
-  p.start(QStringLiteral(TALVERO_ODDS), args);
-  p.waitForStarted();
-  p.write(input);
-  p.closeWriteChannel();
-  p.waitForFinished(120000);
-  return {p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1, QString::fromUtf8(p.readAllStandardOutput()),
-          QString::fromUtf8(p.readAllStandardError())};
-}
-
-void ExpectRefused(const QStringList& args, const QString& fault, const QByteArray& input = {}) {
-  SCOPED_TRACE(args.join(' ').toStdString());
-  const Run r = Odds(args, input);
-  EXPECT_EQ(r.status, 2);
-  EXPECT_TRUE(r.out.isEmpty()) << r.out.toStdString();
-  EXPECT_EQ(r.err.count('\n'), 1) << r.err.toStdString();
-  EXPECT_TRUE(r.err.contains(fault)) << r.err.toStdString();
-}
+using oddstest::ExpectRefused;
 
 TEST(OddsBadInput, FourCards) { ExpectRefused({"As", "Ks", "Qs", "Js"}, "4 cards given"); }
 

@@ -5,24 +5,17 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 
 #include "classic/selection_rules.h"
-#include "tests/support/harness.h"
+#include "tests/tools/odds_process.h"
 #include "tests/tools/odds_support.h"
 
 namespace {
 
 QByteArray Odds(const QStringList& args, const QByteArray& input = {}, int* status = nullptr) {
-  TestApp();
-  QProcess p;
-  p.start(QStringLiteral(TALVERO_ODDS), args);
-  p.waitForStarted();
-  p.write(input);
-  p.closeWriteChannel();
-  p.waitForFinished(300000);
-  if (status) *status = p.exitCode();
-  return p.readAllStandardOutput();
+  const oddstest::Run r = oddstest::Odds(args, input);
+  if (status) *status = r.status;
+  return r.out.toUtf8();
 }
 
 QJsonObject Json(const QByteArray& line) { return QJsonDocument::fromJson(line).object(); }
