@@ -60,6 +60,38 @@ class Analyst {
   std::array<std::shared_future<std::shared_ptr<const odds::Tables>>, 3> tables_;
 };
 
+bool SameGrid(const GridJudgement& g, const Table& t) {
+  return g.valid && g.grid == t.grid && g.jokers == t.jokers && g.level == t.level && g.mise == t.mise;
+}
+
+odds::GridOdds GridOddsOf(const Table& t) {
+  odds::Grid grid;
+  for (std::size_t p = 0; p < grid.size(); ++p) grid[p] = t.grid[p];
+  return odds::AnalyseGrid(grid, t.jokers, t.level);
+}
+
+// The advice and the best choice of a deal, and the choice `down` as it stands.
+GridJudgement JudgeGridWith(const odds::GridOdds& o, const Table& t) {
+  GridJudgement g;
+  g.valid = true;
+  g.grid = t.grid;
+  g.jokers = t.jokers;
+  g.level = t.level;
+  g.mise = t.mise;
+  for (int p = 0; p < odds::kGridPositions; ++p)
+    for (int line = 1; line <= t.level; ++line)
+      if (odds::LinePattern(line, 1u << p)) g.inPlay |= 1u << p;
+  g.down = t.down & g.inPlay;
+  g.ev = odds::EvaluateChoice(o, g.down).ev * t.mise;
+  const odds::GridChoice advice = odds::AdviceChoice(o);
+  g.adviceDown = advice.down;
+  g.adviceEv = advice.ev * t.mise;
+  const odds::GridChoice best = odds::BestChoice(o);
+  g.bestDown = best.down;
+  g.bestEv = best.ev * t.mise;
+  return g;
+}
+
 bool SameDeal(const Judgement& j, const Table& t) {
   return j.valid && j.hand == t.hand && j.jokers == t.jokers && j.mise == t.mise && j.stake == t.stake;
 }
@@ -89,13 +121,26 @@ Judgement Judge(const std::array<std::uint8_t, 5>& hand, int jokers, int mise, l
   return j;
 }
 
+GridJudgement JudgeGrid(const Table& t) { return JudgeGridWith(GridOddsOf(t), t); }
+
 void Prepare(int jokers) { Analyst::Get().Prepare(jokers); }
 
 void WaitUntilPrepared(int jokers) { Analyst::Get().Wait(jokers); }
 
 void Coach::Follow(const Table& t) {
   r_.english = t.english;
-  if (t.between) {
+  if (t.gridBetween) {
+    if (!SameGrid(r_.grid, t)) {
+      gridOdds_ = GridOddsOf(t);
+      r_.grid = JudgeGridWith(gridOdds_, t);
+    } else {
+      r_.grid.down = t.down & r_.grid.inPlay;
+      r_.grid.ev = odds::EvaluateChoice(gridOdds_, r_.grid.down).ev * t.mise;
+    }
+    r_.phase = Phase::GridBetween;
+  } else if (r_.phase == Phase::GridBetween) {
+    r_.phase = Phase::Idle;
+  } else if (t.between) {
     if (!SameDeal(r_.current, t)) r_.current = Judge(t.hand, t.jokers, t.mise, t.stake);
     r_.held = t.held;
     r_.phase = Phase::Between;
@@ -106,6 +151,22 @@ void Coach::Follow(const Table& t) {
 }
 
 void Coach::Decide(const Table& t) {
+  if (t.gridBetween) {
+    Follow(t);
+    const GridJudgement& g = r_.grid;
+    Tally& tally = t.automatic ? r_.gridAutomatic : r_.gridPlayer;
+    ++tally.decisions;
+    tally.played += g.ev;
+    tally.best += g.bestEv;
+    tally.stakes += static_cast<double>(t.stake);
+    if (g.Cost() > 0) {
+      ++tally.mistakes;
+      tally.lost += g.Cost();
+    }
+    gridDecided_ = true;
+    Changed();
+    return;
+  }
   if (!SameDeal(r_.current, t)) r_.current = Judge(t.hand, t.jokers, t.mise, t.stake);
   const Judgement& j = r_.current;
   Decision d{j, t.held, j.Cost(t.held), t.automatic};
@@ -127,8 +188,12 @@ void Coach::Decide(const Table& t) {
 
 void Coach::DrawingOver(const Table& t) {
   r_.english = t.english;
-  r_.chart.push_back({static_cast<double>(t.credit), r_.player.lost + r_.automatic.lost});
-  if (t.roundOver && decided_) {
+  r_.chart.push_back(
+      {static_cast<double>(t.credit), r_.player.lost + r_.automatic.lost + r_.gridPlayer.lost + r_.gridAutomatic.lost});
+  if (t.gridRoundOver && gridDecided_) {
+    r_.phase = Phase::GridVerdict;
+    gridDecided_ = false;
+  } else if (t.roundOver && decided_) {
     r_.phase = Phase::Verdict;
     decided_ = false;
   } else {
@@ -145,6 +210,15 @@ QString HoldText(unsigned held) {
 }
 
 QString HoldLine(const Table& t) {
+  if (t.gridBetween) {
+    const GridJudgement g = JudgeGrid(t);
+    QString down;
+    for (int p = 0; p < odds::kGridPositions; ++p)
+      down += (g.bestDown & (1u << p)) ? QLatin1Char('1') : QLatin1Char('0');
+    return QStringLiteral("coach=grid ev %1 advice %2 best %3 down %4")
+        .arg(QString::number(g.ev, 'f', 6), QString::number(g.adviceEv, 'f', 6), QString::number(g.bestEv, 'f', 6),
+             down);
+  }
   if (!t.between) return QStringLiteral("coach=idle");
   const Judgement j = Judge(t.hand, t.jokers, t.mise, t.stake);
   return QStringLiteral("coach=held %1 ev %2 best %3 bestev %4")
@@ -152,17 +226,26 @@ QString HoldLine(const Table& t) {
            QString::number(j.Best().ev, 'f', 6));
 }
 
+namespace {
+QString Tallies(const char* head, const Tally& p, const Tally& a) {
+  return QLatin1String(head) + QStringLiteral("=decisions %1 mistakes %2 lost %3 auto %4 automistakes %5 autolost %6")
+                                   .arg(p.decisions)
+                                   .arg(p.mistakes)
+                                   .arg(QString::number(p.lost, 'f', 6))
+                                   .arg(a.decisions)
+                                   .arg(a.mistakes)
+                                   .arg(QString::number(a.lost, 'f', 6));
+}
+}  // namespace
+
 QString SessionLine(const Record* r) {
   const Tally none;
-  const Tally& p = r ? r->player : none;
-  const Tally& a = r ? r->automatic : none;
-  return QStringLiteral("coach-session=decisions %1 mistakes %2 lost %3 auto %4 automistakes %5 autolost %6")
-      .arg(p.decisions)
-      .arg(p.mistakes)
-      .arg(QString::number(p.lost, 'f', 6))
-      .arg(a.decisions)
-      .arg(a.mistakes)
-      .arg(QString::number(a.lost, 'f', 6));
+  return Tallies("coach-session", r ? r->player : none, r ? r->automatic : none);
+}
+
+QString GridSessionLine(const Record* r) {
+  const Tally none;
+  return Tallies("coach-session2", r ? r->gridPlayer : none, r ? r->gridAutomatic : none);
 }
 
 }  // namespace coach

@@ -13,6 +13,7 @@
 #include <cstdint>
 
 #include "coach/record.h"
+#include "odds/grid.h"
 
 namespace coach {
 
@@ -28,10 +29,19 @@ struct Table {
   long long credit = 0;
   bool automatic = false;  // the automatic mode plays
   bool english = false;
+  // JEU 2 between its drawings, no duel running: the grid, the positions turned down, the level.
+  bool gridBetween = false;
+  bool gridRoundOver = false;
+  std::array<std::uint8_t, 25> grid{};
+  std::uint32_t down = 0;
+  int level = 1;
 };
 
 // The 32 holds of a deal, best first, valued at `mise`.
 Judgement Judge(const std::array<std::uint8_t, 5>& hand, int jokers, int mise, long long stake);
+
+// The expected pay of a grid's choices, valued at `mise` with the lines of `level` in play.
+GridJudgement JudgeGrid(const Table& t);
 
 // Starts building the tables of a deck in the background, so that the first deal is judged fast.
 void Prepare(int jokers);
@@ -52,13 +62,17 @@ class Coach {
  private:
   void Changed() { ++r_.changes; }
   Record r_;
-  bool decided_ = false;  // a decision waits for the end of its drawing
+  bool decided_ = false;      // a decision waits for the end of its drawing
+  bool gridDecided_ = false;  // the same in JEU 2
+  odds::GridOdds gridOdds_;   // the lines' expectations of the deal in r_.grid
 };
 
 // talvero-drive's lines: "coach=idle" or "coach=held H ev E best B bestev F", and the session's
 // tallies (all zero when the coach never opened).
 QString HoldLine(const Table& t);
 QString SessionLine(const Record* r);
+// "coach-session2=..." with JEU 2's tallies.
+QString GridSessionLine(const Record* r);
 
 // "10110": position 0 first, 1 for a card held.
 QString HoldText(unsigned held);

@@ -39,6 +39,15 @@ coach::Table JeuPoker::TableCoach() const {
     const bool remplacée = Deal(i).GetPicture() == Cartes(54).GetPicture() || Jouez(i).Caption() == jetée;
     if (!remplacée) t.held |= 1u << i;
   }
+  const bool grille = SSAireJeu5->Visible();
+  t.gridBetween = grille && NbTirées == 25 && !DoubleEnCours;
+  t.gridRoundOver = grille && NbTirées == 50;
+  if (grille)
+    for (int p = 0; p <= 24; ++p) {
+      t.grid[static_cast<std::size_t>(p)] = CartesTirage(p);
+      if (FaceCachée(p)) t.down |= 1u << p;
+    }
+  t.level = Niveau;
   t.jokers = NbJokers;
   t.mise = Mise;
   t.stake = static_cast<long long>(Niveau) * Mise;
@@ -54,7 +63,7 @@ void JeuPoker::AvertitCoach(MomentCoach moment) {
   switch (moment) {
     case MomentCoach::Suivi: coach_->Follow(t); break;
     case MomentCoach::Décision:
-      if (t.between) coach_->Decide(t);
+      if (t.between || t.gridBetween) coach_->Decide(t);
       break;
     case MomentCoach::FinTirage: coach_->DrawingOver(t); break;
   }
@@ -83,3 +92,5 @@ bool JeuPoker::CoachVisible() const { return coachWindow_ && coachWindow_->Shown
 QString JeuPoker::LigneCoach() const { return coach::HoldLine(TableCoach()); }
 
 QString JeuPoker::LigneSessionCoach() const { return coach::SessionLine(coach_ ? &coach_->record() : nullptr); }
+
+QString JeuPoker::LigneSessionCoach2() const { return coach::GridSessionLine(coach_ ? &coach_->record() : nullptr); }

@@ -78,10 +78,33 @@ struct ChartPoint {
   double lost = 0;
 };
 
+// One deal of JEU 2 between its drawings: the expected pay in credits of the cards turned down
+// now, of the advice's choice and of the best choice (bit p: position p turned down).
+struct GridJudgement {
+  bool valid = false;
+  std::array<std::uint8_t, 25> grid{};
+  int jokers = 0;
+  int level = 1;
+  int mise = 1;
+  std::uint32_t inPlay = 0;  // the positions on a line in play
+  std::uint32_t down = 0;
+  double ev = 0;
+  std::uint32_t adviceDown = 0;
+  double adviceEv = 0;
+  std::uint32_t bestDown = 0;
+  double bestEv = 0;
+  double Cost() const {
+    const double d = bestEv - ev;
+    return EquallyRight(d, 0) ? 0 : d;
+  }
+};
+
 enum class Phase {
-  Idle,     // no decision to judge
-  Between,  // JEU 1 between its drawings: `current` and `held`
-  Verdict,  // after a second drawing: `last`
+  Idle,         // no decision to judge
+  Between,      // JEU 1 between its drawings: `current` and `held`
+  Verdict,      // after a second drawing: `last`
+  GridBetween,  // JEU 2 between its drawings: `grid`
+  GridVerdict,  // after a second drawing of JEU 2: `grid` as played
 };
 
 struct Record {
@@ -95,6 +118,10 @@ struct Record {
   Tally automatic;
   std::deque<Decision> mistakes;  // newest first, at most kMistakesKept
   std::vector<ChartPoint> chart;
+  // JEU 2: the deal between the drawings, or the last one played, and its tallies.
+  GridJudgement grid;
+  Tally gridPlayer;
+  Tally gridAutomatic;
   long long changes = 0;  // counts every change, so that a window can tell it is behind
 };
 

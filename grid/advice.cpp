@@ -14,6 +14,7 @@ void JeuPoker::Conseils5_Click() {
     Deal2(p).SetPicture(Cartes(kDos).GetPicture());
     Sys().DoEvents();
   }
+  AvertitCoach(MomentCoach::Suivi);
 }
 
 void JeuPoker::AnnuleConseils5_Click() {
@@ -24,4 +25,5 @@ void JeuPoker::AnnuleConseils5_Click() {
     Deal2(p).SetPicture(Cartes2(CartesTirage(p)).GetPicture());
     Sys().DoEvents();
   }
+  AvertitCoach(MomentCoach::Suivi);
 }

@@ -31,6 +31,7 @@ void JeuPoker::MontreCarte2(int p, Picture image) {
 }
 
 void JeuPoker::Tirage5() {
+  AvertitCoach(MomentCoach::Décision);
   // A new deal: close the last one, turn the grid down and give the cards the card pointer.
   if (NbTirées != 25) {
     InitPremierTirage5();
@@ -166,6 +167,7 @@ void JeuPoker::InitPremierTirage5() {
 void JeuPoker::Affichecarte5() {
   const int p = CarteClavier;
   MontreCarte2(p, FaceCachée(p) ? Cartes2(CartesTirage(p)).GetPicture() : Cartes(kDos).GetPicture());
+  AvertitCoach(MomentCoach::Suivi);
 }
 
 void JeuPoker::Deal2_Click(int index) {

@@ -632,8 +632,8 @@ class JeuPoker : public QWidget {
   // A window beside the table that judges the holds of JEU 1 and keeps the session's record. It
   // reads the table at these moments and never writes it; until it first opens it does nothing.
   enum class MomentCoach {
-    Suivi,      // a hold, the deal or the language changed
-    Décision,   // the second drawing of JEU 1 starts: the hold as it stands is played
+    Suivi,      // a hold, a card turned, the deal or the language changed
+    Décision,   // a second drawing starts: the hold or the cards turned down, as they stand, are played
     FinTirage,  // a drawing of either game is over
   };
   void AvertitCoach(MomentCoach moment);
@@ -646,6 +646,7 @@ class JeuPoker : public QWidget {
   // talvero-drive's `coach` and `coach session` lines.
   QString LigneCoach() const;
   QString LigneSessionCoach() const;
+  QString LigneSessionCoach2() const;  // JEU 2's tallies
 
   // ==== Form-level variables by name, for talvero-drive and tests ==========================
   // interface/JeuPoker.cpp, each subsystem registering its own (Register*Variables).

@@ -402,10 +402,12 @@ void Driver::Coach(const QString& what) {
     out_(form_.LigneCoach());
   else if (what == "session")
     out_(form_.LigneSessionCoach());
+  else if (what == "session2")
+    out_(form_.LigneSessionCoach2());
   else if (what.startsWith(QLatin1String("shot ")))
     CoachShot(what.mid(5).trimmed());
   else
-    Refuse(QStringLiteral("coach takes nothing, session or shot FILE"));
+    Refuse(QStringLiteral("coach takes nothing, session, session2 or shot FILE"));
 }
 
 void Driver::CoachShot(const QString& file) {

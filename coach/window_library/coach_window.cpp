@@ -79,6 +79,12 @@ class Window : public QWidget, public CoachWindow {
         holds_->setItem(r, c, item);
       }
     layout->addWidget(holds_, 3);
+    // JEU 2: the grid, the cards the best choice turns down in red, those on no line in play grey.
+    gridPicture_ = new QLabel(this);
+    gridPicture_->setTextFormat(Qt::RichText);
+    gridPicture_->setAlignment(Qt::AlignCenter);
+    gridPicture_->setVisible(false);
+    layout->addWidget(gridPicture_, 3);
     back_ = new QPushButton(this);
     back_->setVisible(false);
     connect(back_, &QPushButton::clicked, this, [this] {
@@ -88,15 +94,16 @@ class Window : public QWidget, public CoachWindow {
     layout->addWidget(back_);
 
     session_ = new QGroupBox(this);
-    auto* sessionLayout = new QHBoxLayout(session_);
+    auto* sessionLayout = new QVBoxLayout(session_);
     tallies_ = new QLabel(session_);
     tallies_->setTextFormat(Qt::RichText);
-    sessionLayout->addWidget(tallies_, 1);
+    sessionLayout->addWidget(tallies_);
     auto* mistakesColumn = new QVBoxLayout;
     mistakesTitle_ = new QLabel(session_);
     mistakesTitle_->setWordWrap(true);
     mistakesColumn->addWidget(mistakesTitle_);
     mistakes_ = new QListWidget(session_);
+    mistakes_->setMaximumHeight(4 * mistakes_->fontMetrics().height() + 8);
     connect(mistakes_, &QListWidget::itemActivated, this, [this](QListWidgetItem* item) {
       shownMistake_ = mistakes_->row(item);
       Update();
@@ -216,6 +223,20 @@ class Window : public QWidget, public CoachWindow {
                        (diff > 0 ? T("Écart : ", "Difference: ") + Credits(diff) + T(" crédits", " credits")
                                  : T("Votre choix est le meilleur.", "Your hold is the best.")));
       ShowHolds(&j, r.held);
+    } else if (r.phase == Phase::GridBetween || r.phase == Phase::GridVerdict) {
+      const coach::GridJudgement& g = r.grid;
+      const bool verdict = r.phase == Phase::GridVerdict;
+      Set(heading_, (verdict ? T("JEU 2, verdict", "JEU 2, verdict")
+                             : T("JEU 2 entre les tirages", "JEU 2 between the drawings")) +
+                        T(" : niveau ", ": level ") + QString::number(g.level) + T(", mise ", ", bet ") +
+                        QString::number(g.mise));
+      const double diff = g.Cost();
+      Set(detail_, T("Votre choix : ", "Your choice: ") + Credits(g.ev) + "\n" + T("Les conseils : ", "The advice: ") +
+                       Credits(g.adviceEv) + "\n" + T("Le meilleur : ", "The best: ") + Credits(g.bestEv) + "\n" +
+                       (diff > 0 ? (verdict ? T("Erreur : ", "Mistake: ") : T("Écart : ", "Difference: ")) +
+                                       Credits(diff) + T(" crédits en espérance", " credits in expectation")
+                                 : T("Votre choix est le meilleur.", "Your choice is the best.")));
+      ShowGrid(g);
     } else if (r.phase == Phase::Verdict) {
       Set(heading_, T("Verdict : ", "Verdict: ") + Hand(r.last.judgement));
       Set(detail_, Verdict(r.last));
@@ -240,6 +261,8 @@ class Window : public QWidget, public CoachWindow {
 
   // The 32 holds of `j` (none when null), the row of `marked` pointed at, the best in green.
   void ShowHolds(const Judgement* j, unsigned marked) {
+    gridPicture_->setVisible(false);
+    holds_->setVisible(true);
     const bool same = j == shownJudgement_ && (!j || (j->hand == shownHand_ && j->mise == shownMise_));
     for (int r = 0; r < coach::kHolds; ++r) {
       const coach::HoldValue* h = j && j->valid ? &j->holds[static_cast<std::size_t>(r)] : nullptr;
@@ -267,18 +290,48 @@ class Window : public QWidget, public CoachWindow {
     shownMarked_ = marked;
   }
 
-  QString TallyText(const coach::Tally& t) const {
-    return T("Décisions : ", "Decisions: ") + QString::number(t.decisions) + "<br>" + T("Erreurs : ", "Mistakes: ") +
-           QString::number(t.mistakes) + "<br>" + T("Justesse : ", "Accuracy: ") +
-           QString::number(t.Accuracy(), 'f', 1) + " %<br>" + T("Perdu aux erreurs : ", "Lost to mistakes: ") +
-           Credits(t.lost) + "<br>" + T("Retour de vos choix : ", "Return of the holds played: ") +
-           QString::number(t.PlayedReturn(), 'f', 2) + " %<br>" +
-           T("Retour du jeu parfait : ", "Return of perfect play: ") + QString::number(t.BestReturn(), 'f', 2) + " %";
+  // One row of the session's table: a way of playing and its tallies.
+  QString TallyRow(const QString& who, const coach::Tally& t) const {
+    return "<tr><td>" + who + "</td><td align=right>" + QString::number(t.decisions) + "</td><td align=right>" +
+           QString::number(t.mistakes) + "</td><td align=right>" + QString::number(t.Accuracy(), 'f', 1) +
+           " %</td><td align=right>" + Credits(t.lost) + "</td><td align=right>" +
+           QString::number(t.PlayedReturn(), 'f', 2) + " %</td><td align=right>" +
+           QString::number(t.BestReturn(), 'f', 2) + " %</td></tr>";
+  }
+
+  void ShowGrid(const coach::GridJudgement& g) {
+    holds_->setVisible(false);
+    gridPicture_->setVisible(true);
+    QString html = QStringLiteral("<table cellspacing=2 cellpadding=4>");
+    for (int row = 0; row < 5; ++row) {
+      html += QStringLiteral("<tr>");
+      for (int col = 0; col < 5; ++col) {
+        const int p = 5 * row + col;
+        const bool inPlay = g.inPlay & (1u << p);
+        const bool best = g.bestDown & (1u << p);
+        const bool mine = g.down & (1u << p);
+        const QString colour = best     ? QStringLiteral("#f0a0a0")
+                               : inPlay ? QStringLiteral("#ffffff")
+                                        : QStringLiteral("#d0d0d0");
+        html += QStringLiteral("<td align=center bgcolor=%1>%2%3%4</td>")
+                    .arg(colour, mine ? QStringLiteral("<u>") : QString(), Card(g.grid[static_cast<std::size_t>(p)]),
+                         mine ? QStringLiteral("</u>") : QString());
+      }
+      html += QStringLiteral("</tr>");
+    }
+    html += QStringLiteral("</table><br>") + T("En rouge : ce que le meilleur choix retourne ; souligné : votre choix.",
+                                               "In red: what the best choice turns down; underlined: your choice.");
+    Set(gridPicture_, html);
   }
 
   void ShowSession(const Record& r) {
-    const QString tallies = "<b>" + T("Vos choix", "Your holds") + "</b><br>" + TallyText(r.player) + "<br><b>" +
-                            T("Mode automatique", "Automatic mode") + "</b><br>" + TallyText(r.automatic);
+    const QString tallies =
+        "<table cellspacing=0 cellpadding=2><tr><th></th><th>" + T("Décisions", "Decisions") + "</th><th>" +
+        T("Erreurs", "Mistakes") + "</th><th>" + T("Justesse", "Accuracy") + "</th><th>" + T("Perdu", "Lost") +
+        "</th><th>" + T("Retour", "Return") + "</th><th>" + T("Parfait", "Perfect") + "</th></tr>" +
+        TallyRow(T("JEU 1, vous", "JEU 1, you"), r.player) + TallyRow(T("JEU 1, auto", "JEU 1, auto"), r.automatic) +
+        TallyRow(T("JEU 2, vous", "JEU 2, you"), r.gridPlayer) +
+        TallyRow(T("JEU 2, auto", "JEU 2, auto"), r.gridAutomatic) + "</table>";
     if (tallies != shownTallies_) {
       tallies_->setText(tallies);
       shownTallies_ = tallies;
@@ -321,6 +374,7 @@ class Window : public QWidget, public CoachWindow {
   QPushButton* back_;
   QGroupBox* session_;
   QLabel* tallies_;
+  QLabel* gridPicture_;
   QListWidget* mistakes_;
   QLabel* mistakesTitle_;
   QLineSeries* credit_;

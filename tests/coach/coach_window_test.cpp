@@ -133,7 +133,7 @@ TEST(CoachDrive, PrintsIdleAHoldLineAndTheSession) {
   static const QRegularExpression held(
       QStringLiteral("^coach=held 10000 ev \\d+\\.\\d{6} best 11000 bestev \\d+\\.\\d{6}$"));
   EXPECT_TRUE(held.match(r.lines[2]).hasMatch()) << r.lines[2].toStdString();
-  EXPECT_EQ(r.lines[3], "error: coach takes nothing, session or shot FILE");
+  EXPECT_EQ(r.lines[3], "error: coach takes nothing, session, session2 or shot FILE");
   EXPECT_EQ(r.lines[4], "Coach.Visible=-1");
   EXPECT_EQ(r.lines[5], "coach=idle");
   EXPECT_EQ(r.lines[6], "coach-session=decisions 1 mistakes 0 lost 0.000000 auto 0 automistakes 0 autolost 0.000000");
