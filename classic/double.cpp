@@ -25,6 +25,7 @@ void JeuPoker::Double1X5_Click() {
   for (int i = 1; i <= 4; ++i) Deal(i).SetPicture(Cartes(kDos).GetPicture());
   Doubler->SetVisible(false);
   SSAlertes->SetCaption(TexteAlerte(Alerte::ChoixCarte));
+  AvertitCoach(MomentCoach::Suivi);
 }
 
 void JeuPoker::ChoixCarteQouD() {
@@ -104,4 +105,5 @@ void JeuPoker::Quitte1X5_Click() {
   InitPremierTirage();
   for (int i = 0; i <= 4; ++i) Deal(i).SetPicture(Cartes(kDos).GetPicture());
   SSAlertes->SetCaption(TexteAlerte(Alerte::NouveauTirage));
+  AvertitCoach(MomentCoach::Suivi);
 }

@@ -41,6 +41,7 @@ void JeuPoker::Deal_Click(int index) {
   if (DoubleEnCours) {
     CarteChoisie = vb::CByte(index);
     ChoixCarteQouD();
+    AvertitCoach(MomentCoach::Suivi);
     return;
   }
   InverseJouez(index);
@@ -60,6 +61,7 @@ void JeuPoker::Form_KeyDown(int keyCode, int /*shift*/) {
   if (DoubleEnCours && keyCode != kKeypad1) {
     CarteChoisie = CarteClavier;
     ChoixCarteQouD();
+    AvertitCoach(MomentCoach::Suivi);
   }
 }
 

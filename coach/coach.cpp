@@ -121,6 +121,34 @@ Judgement Judge(const std::array<std::uint8_t, 5>& hand, int jokers, int mise, l
   return j;
 }
 
+DuelFigures Duel(bool houseKnown, int houseRank) {
+  DuelFigures d;
+  d.shown = true;
+  d.houseKnown = houseKnown;
+  d.houseRank = houseRank;
+  long long win = 0, tie = 0, lose = 0, all = 0;
+  for (int house = 0; house < 12; ++house) {
+    if (houseKnown && house != houseRank) continue;
+    for (int houseSuit = 0; houseSuit < 4; ++houseSuit)
+      for (int card = 0; card < 52; ++card) {
+        if (card == 13 * houseSuit + house) continue;
+        const int rank = card % 13;
+        ++all;
+        if (rank > house)
+          ++win;
+        else if (rank == house)
+          ++tie;
+        else
+          ++lose;
+      }
+  }
+  d.win = static_cast<double>(win) / static_cast<double>(all);
+  d.tie = static_cast<double>(tie) / static_cast<double>(all);
+  d.lose = static_cast<double>(lose) / static_cast<double>(all);
+  d.ev = 2 * d.win + d.tie;
+  return d;
+}
+
 GridJudgement JudgeGrid(const Table& t) { return JudgeGridWith(GridOddsOf(t), t); }
 
 void Prepare(int jokers) { Analyst::Get().Prepare(jokers); }
@@ -129,6 +157,7 @@ void WaitUntilPrepared(int jokers) { Analyst::Get().Wait(jokers); }
 
 void Coach::Follow(const Table& t) {
   r_.english = t.english;
+  r_.duel = t.winWaits || t.duel ? Duel(t.duel, t.houseRank) : DuelFigures{};
   if (t.gridBetween) {
     if (!SameGrid(r_.grid, t)) {
       gridOdds_ = GridOddsOf(t);
@@ -188,6 +217,7 @@ void Coach::Decide(const Table& t) {
 
 void Coach::DrawingOver(const Table& t) {
   r_.english = t.english;
+  r_.duel = t.winWaits || t.duel ? Duel(t.duel, t.houseRank) : DuelFigures{};
   r_.chart.push_back(
       {static_cast<double>(t.credit), r_.player.lost + r_.automatic.lost + r_.gridPlayer.lost + r_.gridAutomatic.lost});
   if (t.gridRoundOver && gridDecided_) {

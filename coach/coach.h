@@ -35,6 +35,10 @@ struct Table {
   std::array<std::uint8_t, 25> grid{};
   std::uint32_t down = 0;
   int level = 1;
+  // The double-up of either game: a win waits (the offer shown), or the house's card is up.
+  bool winWaits = false;
+  bool duel = false;
+  int houseRank = 0;
 };
 
 // The 32 holds of a deal, best first, valued at `mise`.
@@ -42,6 +46,11 @@ Judgement Judge(const std::array<std::uint8_t, 5>& hand, int jokers, int mise, l
 
 // The expected pay of a grid's choices, valued at `mise` with the lines of `level` in play.
 GridJudgement JudgeGrid(const Table& t);
+
+// The duel's figures, counted over the house's draw as both games make it: the house's rank
+// uniform among the two to the king with any suit, the player's card any of the 52 other than
+// the house's; the ranks alone compare.
+DuelFigures Duel(bool houseKnown, int houseRank);
 
 // Starts building the tables of a deck in the background, so that the first deal is judged fast.
 void Prepare(int jokers);

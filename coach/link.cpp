@@ -48,6 +48,9 @@ coach::Table JeuPoker::TableCoach() const {
       if (FaceCachée(p)) t.down |= 1u << p;
     }
   t.level = Niveau;
+  t.winWaits = (classique && Doubler->Visible() && GainMain > 0) || (grille && Doubler5->Visible() && GainTirage > 0);
+  t.duel = DoubleEnCours && (classique || grille);
+  t.houseRank = DoubleCarte1;
   t.jokers = NbJokers;
   t.mise = Mise;
   t.stake = static_cast<long long>(Niveau) * Mise;

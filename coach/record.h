@@ -99,6 +99,17 @@ struct GridJudgement {
   }
 };
 
+// The double-up while a win waits: the chances of winning, tying and losing the duel and what
+// doubling is worth as a multiple of the win. Before the house's card is drawn they average over
+// its draw; once it is up they are those against it.
+struct DuelFigures {
+  bool shown = false;       // a win waits, or a duel awaits the player's card
+  bool houseKnown = false;  // the house's card is up
+  int houseRank = 0;        // 0 the two .. 11 the king
+  double win = 0, tie = 0, lose = 0;
+  double ev = 0;  // 2 x win + 1 x tie
+};
+
 enum class Phase {
   Idle,         // no decision to judge
   Between,      // JEU 1 between its drawings: `current` and `held`
@@ -118,6 +129,7 @@ struct Record {
   Tally automatic;
   std::deque<Decision> mistakes;  // newest first, at most kMistakesKept
   std::vector<ChartPoint> chart;
+  DuelFigures duel;
   // JEU 2: the deal between the drawings, or the last one played, and its tallies.
   GridJudgement grid;
   Tally gridPlayer;

@@ -27,6 +27,7 @@ void JeuPoker::Double5X5_Click() {
   }
   Doubler5->SetVisible(false);
   SSAlertes->SetCaption(TexteAlerte(Alerte::ChoixCarte));
+  AvertitCoach(MomentCoach::Suivi);
 }
 
 void JeuPoker::ChoixCarteQouD5() {
@@ -103,4 +104,5 @@ void JeuPoker::Quitte5X5_Click() {
   const bool couvert = static_cast<long long>(Niveau) * Mise <= static_cast<long long>(Capital) + GainTirage;
   SSAlertes->SetCaption(TexteAlerte(couvert ? Alerte::NouveauTirage : Alerte::MiseRamenée));
   InitPremierTirage5();
+  AvertitCoach(MomentCoach::Suivi);
 }

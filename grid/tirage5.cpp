@@ -188,5 +188,6 @@ void JeuPoker::Deal2_Click(int index) {
   } else {
     CarteChoisie = vb::CByte(index);
     ChoixCarteQouD5();
+    AvertitCoach(MomentCoach::Suivi);
   }
 }

@@ -65,6 +65,9 @@ class Window : public QWidget, public CoachWindow {
     detail_ = new QLabel(this);
     detail_->setWordWrap(true);
     layout->addWidget(detail_);
+    duel_ = new QLabel(this);
+    duel_->setStyleSheet(QStringLiteral("color: #803000"));
+    layout->addWidget(duel_);
 
     holds_ = new QTableWidget(coach::kHolds, 3, this);
     holds_->verticalHeader()->setVisible(false);
@@ -72,6 +75,7 @@ class Window : public QWidget, public CoachWindow {
     holds_->setSelectionMode(QAbstractItemView::NoSelection);
     holds_->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
     holds_->verticalHeader()->setDefaultSectionSize(holds_->fontMetrics().height() + 4);
+    holds_->setMinimumHeight(120);
     for (int r = 0; r < coach::kHolds; ++r)
       for (int c = 0; c < 3; ++c) {
         auto* item = new QTableWidgetItem;
@@ -134,7 +138,7 @@ class Window : public QWidget, public CoachWindow {
     for (QValueAxis* a : {axisX_, axisY_}) a->setTruncateLabels(false);
     auto* view = new QChartView(chart, this);
     view->setRenderHint(QPainter::Antialiasing);
-    view->setMinimumHeight(230);
+    view->setMinimumHeight(200);
     layout->addWidget(view, 2);
 
     resize(480, 768);
@@ -247,8 +251,22 @@ class Window : public QWidget, public CoachWindow {
                      "The coach judges every hold between the two drawings of JEU 1."));
       ShowHolds(nullptr, 0);
     }
+    ShowDuel(r.duel);
     ShowSession(r);
     ShowChart(r);
+    // A label that shows or grows takes its room now, not at the next turn of the event loop.
+    layout()->activate();
+  }
+
+  void ShowDuel(const coach::DuelFigures& d) {
+    duel_->setVisible(d.shown);
+    if (!d.shown) return;
+    const auto pc = [](double p) { return QString::number(100 * p, 'f', 1) + " %"; };
+    Set(duel_, (d.houseKnown ? T("Le duel contre cette carte : ", "The duel against this card: ")
+                             : T("Si vous doublez : ", "If you double: ")) +
+                   T("gagné ", "win ") + pc(d.win) + T(", égal ", ", tie ") + pc(d.tie) + T(", perdu ", ", lose ") +
+                   pc(d.lose) + ".\n" + T("Doubler vaut ", "Doubling is worth ") + QString::number(d.ev, 'f', 3) +
+                   T(" fois le gain.", " times the win."));
   }
 
   QString Verdict(const Decision& d) const {
@@ -374,6 +392,7 @@ class Window : public QWidget, public CoachWindow {
   QPushButton* back_;
   QGroupBox* session_;
   QLabel* tallies_;
+  QLabel* duel_;
   QLabel* gridPicture_;
   QListWidget* mistakes_;
   QLabel* mistakesTitle_;
