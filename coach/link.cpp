@@ -1,25 +1,14 @@
 // The form's side of the coach: what it reads of the table, the three moments it is told of,
 // F2, and the loading of its window's library.
-#include <QCoreApplication>
-#include <QDir>
-#include <QFileInfo>
-#include <QLibrary>
 #include <cstdio>
 
 #include "interface/JeuPoker.h"
+#include "services/program_dir.h"
 
 CoachWindow* MakeCoachWindow(const coach::Record* record) {
   static const CoachWindowEntry entry = []() -> CoachWindowEntry {
-    const QDir here(QCoreApplication::applicationDirPath());
-    QString problem = QStringLiteral("not found");
-    for (const QString& dir : {QStringLiteral("../lib/games/talvero"), QStringLiteral("."), QStringLiteral("..")}) {
-      const QString path = QDir::cleanPath(here.filePath(dir + '/' + QLatin1String(kCoachLibrary)));
-      if (!QFileInfo::exists(path)) continue;
-      // Never unloaded: its windows may live as long as the process.
-      QLibrary library(path);
-      if (auto e = reinterpret_cast<CoachWindowEntry>(library.resolve(kCoachEntry))) return e;
-      problem = library.errorString();
-    }
+    QString problem;
+    if (auto e = reinterpret_cast<CoachWindowEntry>(ResolveOwnLibrary(kCoachLibrary, kCoachEntry, problem))) return e;
     std::fprintf(stderr, "talvero: the coach's library %s cannot be loaded (%s): the coach has no window\n",
                  kCoachLibrary, qPrintable(problem));
     return nullptr;

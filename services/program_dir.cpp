@@ -1,8 +1,10 @@
 // The program directory and the data directory of an installed game and of the build tree.
 #include "services/program_dir.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QLibrary>
 
 QString InstalledDataDirectory(const QString& executableDir) {
   return QDir::cleanPath(executableDir + QStringLiteral("/../share/games/talvero"));
@@ -28,4 +30,17 @@ ProgramDirectories LocateProgramDirectories(const QString& executableDir) {
   if (!QDir().mkpath(dirs.program))
     dirs.problem = QStringLiteral("cannot create %1: the language chosen cannot be kept").arg(dirs.program);
   return dirs;
+}
+
+QFunctionPointer ResolveOwnLibrary(const char* file, const char* entry, QString& problem) {
+  const QDir here(QCoreApplication::applicationDirPath());
+  problem = QStringLiteral("not found");
+  for (const QString& dir : {QStringLiteral("../lib/games/talvero"), QStringLiteral("."), QStringLiteral("..")}) {
+    const QString path = QDir::cleanPath(here.filePath(dir + '/' + QLatin1String(file)));
+    if (!QFileInfo::exists(path)) continue;
+    QLibrary library(path);
+    if (QFunctionPointer f = library.resolve(entry)) return f;
+    problem = library.errorString();
+  }
+  return nullptr;
 }

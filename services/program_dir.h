@@ -10,6 +10,7 @@
 #pragma once
 
 #include <QString>
+#include <QtGlobal>
 
 struct ProgramDirectories {
   QString program;  // Ini.dat; the current directory once the game has started
@@ -29,3 +30,9 @@ QString PlayerProgramDirectory();
 // Applies the rule above for an executable in `executableDir`, making the player's directory
 // when the game is installed.
 ProgramDirectories LocateProgramDirectories(const QString& executableDir);
+
+// A library of the game's own (the network's, the coach's window), looked for in
+// ../lib/games/talvero from the executable (installed), then beside it and in its parent (the
+// build tree), and never unloaded: what it makes may live as long as the process. Returns the
+// address of its function `entry`, or null with the reason in `problem`.
+QFunctionPointer ResolveOwnLibrary(const char* file, const char* entry, QString& problem);

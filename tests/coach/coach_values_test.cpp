@@ -42,16 +42,7 @@ TEST_P(CoachValues, MatchAPlainEnumerationOfTheDraws) {
   std::mt19937 rng(4242u + static_cast<unsigned>(jokers));
   std::vector<odds::Hand> deals;
   for (int i = 0; i < count; ++i) deals.push_back(oddstest::RandomDeal(rng, jokers));
-  // The plain counts on every core.
-  std::vector<std::array<odds::Counts, odds::kHolds>> plain(deals.size());
-  oddstest::PlainClasses();
-  const unsigned threads = std::max(1u, std::thread::hardware_concurrency());
-  std::vector<std::thread> pool;
-  for (unsigned t = 0; t < threads; ++t)
-    pool.emplace_back([&, t] {
-      for (std::size_t k = t; k < deals.size(); k += threads) plain[k] = oddstest::PlainHolds(jokers, deals[k]);
-    });
-  for (auto& th : pool) th.join();
+  const auto plain = oddstest::PlainAll(jokers, deals);
 
   const odds::PayTable pay = odds::PayTableClassic(jokers);
   for (std::size_t k = 0; k < deals.size(); ++k) {

@@ -40,20 +40,6 @@ std::vector<Hand> Deals(int jokers, int random, unsigned seed) {
   return d;
 }
 
-// The plain counts of every deal, on every core.
-std::vector<std::array<odds::Counts, odds::kHolds>> PlainAll(int jokers, const std::vector<Hand>& deals) {
-  std::vector<std::array<odds::Counts, odds::kHolds>> out(deals.size());
-  oddstest::PlainClasses();  // built before the threads start
-  const unsigned threads = std::max(1u, std::thread::hardware_concurrency());
-  std::vector<std::thread> pool;
-  for (unsigned t = 0; t < threads; ++t)
-    pool.emplace_back([&, t] {
-      for (std::size_t k = t; k < deals.size(); k += threads) out[k] = oddstest::PlainHolds(jokers, deals[k]);
-    });
-  for (auto& th : pool) th.join();
-  return out;
-}
-
 void ExpectSame(const Hand& deal, int jokers, const std::vector<odds::Hold>& holds,
                 const std::array<odds::Counts, odds::kHolds>& plain) {
   const odds::PayTable pay = odds::PayTableClassic(jokers);
@@ -77,7 +63,7 @@ void ExpectSame(const Hand& deal, int jokers, const std::vector<odds::Hold>& hol
 
 void ThroughTheTables(int jokers) {
   const std::vector<Hand> deals = Deals(jokers, oddstest::kSanitized ? 100 : 1000, 1234u + jokers);
-  const auto plain = PlainAll(jokers, deals);
+  const auto plain = oddstest::PlainAll(jokers, deals);
   const odds::Tables tables = odds::Tables::ForGame(jokers);
   for (std::size_t k = 0; k < deals.size(); ++k)
     ExpectSame(deals[k], jokers, odds::AnalyseHand(tables, odds::PayTableClassic(jokers), deals[k]), plain[k]);
@@ -85,7 +71,7 @@ void ThroughTheTables(int jokers) {
 
 void ThroughTheDirectWalk(int jokers) {
   const std::vector<Hand> deals = Deals(jokers, oddstest::kSanitized ? 2 : 30, 99u + jokers);
-  const auto plain = PlainAll(jokers, deals);
+  const auto plain = oddstest::PlainAll(jokers, deals);
   for (std::size_t k = 0; k < deals.size(); ++k)
     ExpectSame(deals[k], jokers, odds::AnalyseHandDirect(jokers, odds::PayTableClassic(jokers), deals[k], 2), plain[k]);
 }

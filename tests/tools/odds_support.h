@@ -6,6 +6,7 @@
 #include <array>
 #include <cstring>
 #include <random>
+#include <thread>
 #include <vector>
 
 #include "core/evaluation.h"
@@ -92,6 +93,20 @@ inline odds::Hand RandomDeal(std::mt19937& rng, int jokers) {
   for (int c = 0; c < 52 + jokers; ++c) deck.push_back(static_cast<Byte>(c));
   std::shuffle(deck.begin(), deck.end(), rng);
   return {deck[0], deck[1], deck[2], deck[3], deck[4]};
+}
+
+// The plain counts of every deal, on every core.
+inline std::vector<std::array<odds::Counts, odds::kHolds>> PlainAll(int jokers, const std::vector<odds::Hand>& deals) {
+  std::vector<std::array<odds::Counts, odds::kHolds>> out(deals.size());
+  PlainClasses();  // built before the threads start
+  const unsigned threads = std::max(1u, std::thread::hardware_concurrency());
+  std::vector<std::thread> pool;
+  for (unsigned t = 0; t < threads; ++t)
+    pool.emplace_back([&, t] {
+      for (std::size_t k = t; k < deals.size(); k += threads) out[k] = PlainHolds(jokers, deals[k]);
+    });
+  for (auto& th : pool) th.join();
+  return out;
 }
 
 }  // namespace oddstest
