@@ -98,6 +98,16 @@ bool SameDeal(const Judgement& j, const Table& t) {
 
 }  // namespace
 
+bool Judgeable(const std::uint8_t* codes, int n, int jokers) {
+  if (jokers < 0 || jokers > 2) return false;
+  std::uint64_t seen = 0;
+  for (int i = 0; i < n; ++i) {
+    if (codes[i] >= 52 + jokers || (seen >> codes[i] & 1u)) return false;
+    seen |= std::uint64_t{1} << codes[i];
+  }
+  return true;
+}
+
 Judgement Judge(const std::array<std::uint8_t, 5>& hand, int jokers, int mise, long long stake) {
   odds::Hand h;
   for (int i = 0; i < 5; ++i) h[static_cast<std::size_t>(i)] = hand[static_cast<std::size_t>(i)];

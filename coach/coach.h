@@ -41,6 +41,11 @@ struct Table {
   int houseRank = 0;
 };
 
+// Whether `n` card codes make a deal the coach can judge: distinct codes of the deck of
+// `jokers` jokers. Drawings entered again from their own yields can deal a card twice; such a
+// table is not judged.
+bool Judgeable(const std::uint8_t* codes, int n, int jokers);
+
 // The 32 holds of a deal, best first, valued at `mise`.
 Judgement Judge(const std::array<std::uint8_t, 5>& hand, int jokers, int mise, long long stake);
 

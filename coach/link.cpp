@@ -36,6 +36,9 @@ coach::Table JeuPoker::TableCoach() const {
       t.grid[static_cast<std::size_t>(p)] = CartesTirage(p);
       if (FaceCachée(p)) t.down |= 1u << p;
     }
+  // A table that nested drawings left with a card twice is not judged.
+  t.between = t.between && coach::Judgeable(t.hand.data(), 5, NbJokers);
+  t.gridBetween = t.gridBetween && coach::Judgeable(t.grid.data(), 25, NbJokers);
   t.level = Niveau;
   t.winWaits = (classique && Doubler->Visible() && GainMain > 0) || (grille && Doubler5->Visible() && GainTirage > 0);
   t.duel = DoubleEnCours && (classique || grille);

@@ -147,3 +147,33 @@ TEST(CoachSession, TheAutomaticModeIsCountedApart) {
 }
 
 }  // namespace
+
+namespace {
+
+// Drawings entered again from their own yields can leave a card twice on the table: the coach
+// then judges nothing, counts nothing, and never stalls the game.
+TEST(CoachSession, ADealWithACardTwiceIsNotJudged) {
+  Harness h;
+  Quiet(h, "key 113");
+  Deal(h, kKings);
+  Quiet(h, "set CartesTirage(1) 11");  // the king of clubs twice
+  Quiet(h, "click Deal(0)");
+  EXPECT_EQ(h.Drive1("coach"), "coach=idle");
+  Play(h, "01000", {0, 1, 2});
+  EXPECT_EQ(Field(h.Drive1("coach session"), "decisions"), 0);
+
+  if (h.form->Doubler->Visible()) Quiet(h, "click Quitte1X5");
+  Quiet(h, "click Jeu3D");
+  QString draw = "draw";
+  for (int c = 0; c < 25; ++c) draw += " " + QString::number(c);
+  Quiet(h, draw);
+  Quiet(h, "click Jouer");
+  ASSERT_EQ(h.form->NbTirées, 25);
+  Quiet(h, "set CartesTirage(7) 3");  // the five of clubs twice on the grid
+  Quiet(h, "click Deal2(7)");
+  EXPECT_EQ(h.Drive1("coach"), "coach=idle");
+  Quiet(h, "click Jouer");
+  EXPECT_EQ(Field(h.Drive1("coach session2"), "decisions"), 0);
+}
+
+}  // namespace
