@@ -6,6 +6,7 @@
 #include <cstdlib>
 
 #include "interface/JeuPoker.h"
+#include "interface/table_scale.h"
 #include "services/measurement.h"
 #include "services/platform.h"
 #include "services/program_dir.h"
@@ -21,7 +22,8 @@ int main(int argc, char** argv) {
   // Installed, the data is read where it was installed and Ini.dat is the player's own.
   const ProgramDirectories dirs = LocateProgramDirectories(QCoreApplication::applicationDirPath());
   if (!dirs.problem.isEmpty()) std::fprintf(stderr, "talvero: %s\n", qPrintable(dirs.problem));
-  JeuPoker form(dirs.program, dirs.data);
+  // The table's scale: --scale S or TALVERO_SCALE, else the largest that fits the screen.
+  JeuPoker form(dirs.program, dirs.data, table::RequestedScale(QCoreApplication::arguments()));
   StartupStage("form");
   ReportFirstFrame(form);
   // The end of the program is immediate: no save, no confirmation.

@@ -73,9 +73,14 @@ void JeuPoker::OuvreCoach(bool montrer) {
   }
   if (montrer && !coachWindow_) {
     coachWindow_.reset(MakeCoachWindow(&coach_->record()));
+    ScaleCoachWindow();
     if (coachWindow_) coachWindow_->PlaceBeside(frameGeometry());
   }
   if (coachWindow_) coachWindow_->SetShown(montrer);
+}
+
+void JeuPoker::ScaleCoachWindow() {
+  if (coachWindow_) coachWindow_->SetScale(scale_);
 }
 
 void JeuPoker::BasculeCoach() { OuvreCoach(!CoachVisible()); }

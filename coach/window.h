@@ -21,6 +21,8 @@ class CoachWindow {
   // Puts the window beside `table`, the game's window in global coordinates.
   virtual void PlaceBeside(const QRect& table) = 0;
   virtual QWidget* Widget() = 0;
+  // The table's scale: the window's text, rows and pictures are that many times larger.
+  virtual void SetScale(double s) = 0;
 };
 
 // The library's file name and the function it exports to make the window.

@@ -2,37 +2,59 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QScreen>
 #include <QTimer>
 
 #include "interface/bind.h"
+#include "interface/table_scale.h"
 #include "services/first_frame.h"
 #include "services/startup_stages.h"
 
 int VbKeyCode(const QKeyEvent* e);
 
-JeuPoker::JeuPoker(const QString& programDir, const QString& dataDir)
+JeuPoker::JeuPoker(const QString& programDir, const QString& dataDir, double scale)
     : programDir_(programDir), dataDir_(dataDir.isEmpty() ? programDir : dataDir) {
   setObjectName("JeuPoker");
   setWindowTitle("MONTALBERGUES");
-  setFixedSize(1024, 768);
+  // The table never shows smaller than its logical size; larger, it is centred on black.
+  setMinimumSize(table::kLogicalSize);
   setAutoFillBackground(true);
   QPalette pal = palette();
   pal.setColor(QPalette::Window, Qt::black);
   setPalette(pal);
+  // At start the table fits the screen's free area, unless a scale was asked for.
+  const QScreen* screen = QGuiApplication::primaryScreen();
+  scale_ = scale > 0 ? scale : screen ? table::FitScale(screen->availableGeometry().size()) : 1.0;
+  table_ = new QWidget(this);
+  table_->setObjectName(QStringLiteral("Table"));
+  resize(table::TableRect(QSize(), scale_).size());
+  table_->setGeometry(table::TableRect(size(), scale_));
   // The card faces take longest: they render on a worker while the controls are built.
-  const qreal dpr = qGuiApp ? qGuiApp->devicePixelRatio() : 1.0;
-  cardFaces_ = pics::CardFaces::For({QSize(88, 133), 55, QSize(65, 87), 54, dpr});
+  faceSizes_ = {QSize(88, 133), 55, QSize(65, 87), 54, PictureRatio()};
+  cardFaces_ = pics::CardFaces::For(faceSizes_);
+  renderDelay_ = new QTimer(this);
+  renderDelay_->setSingleShot(true);
+  renderDelay_->setInterval(table::kRenderDelayMs);
+  connect(renderDelay_, &QTimer::timeout, this, [this] { RenderPictures(); });
+  renderPoll_ = new QTimer(this);
+  renderPoll_->setInterval(table::kRenderPollMs);
+  connect(renderPoll_, &QTimer::timeout, this, [this] { AdoptPictures(); });
   BuildControls();
   StartupStage("controls");
   BuildPictures();
   StartupStage("pictures");
+  if (scale_ != 1) ScaleTableContents();
   WireEvents();
   RegisterVariables();
   // Keys reach the form first, then the control with the focus.
   qApp->installEventFilter(this);
 }
 
-JeuPoker::~JeuPoker() { qApp->removeEventFilter(this); }
+JeuPoker::~JeuPoker() {
+  qApp->removeEventFilter(this);
+  // The pictures drawn in the background belong to this form.
+  if (rendering_.valid()) rendering_.wait();
+}
 
 bool JeuPoker::eventFilter(QObject* watched, QEvent* event) {
   // Once the form's first frame has been painted and flushed, the card worker goes on to the
@@ -43,6 +65,15 @@ bool JeuPoker::eventFilter(QObject* watched, QEvent* event) {
       if (cardFaces_) cardFaces_->Continue();
       FirstFrameShown();
     });
+  }
+  // F11 switches the table to full screen and back; the game never sees it.
+  if ((event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease) &&
+      static_cast<QKeyEvent*>(event)->key() == Qt::Key_F11) {
+    auto* w = qobject_cast<QWidget*>(watched);
+    if (w && (w == this || isAncestorOf(w))) {
+      if (event->type() == QEvent::KeyPress && !static_cast<QKeyEvent*>(event)->isAutoRepeat()) ToggleFullScreen();
+      return true;
+    }
   }
   if (event->type() == QEvent::KeyPress) {
     auto* w = qobject_cast<QWidget*>(watched);

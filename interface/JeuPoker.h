@@ -64,8 +64,10 @@
 #pragma once
 
 #include <QHash>
+#include <QImage>
 #include <QString>
 #include <QStringList>
+#include <QTimer>
 #include <QWidget>
 #include <functional>
 #include <future>
@@ -83,11 +85,27 @@ class JeuPoker : public QWidget {
  public:
   // `programDir` is the program's own directory (Ini.dat); `dataDir` holds the pieces and
   // the pages, and is the program directory unless given (see services/program_dir.h).
-  explicit JeuPoker(const QString& programDir, const QString& dataDir = QString());
+  // `scale` is the table's scale on screen, from 1 to 4; 0 fits the screen
+  // (interface/table_scale.h).
+  explicit JeuPoker(const QString& programDir, const QString& dataDir = QString(), double scale = 0);
   ~JeuPoker() override;
 
   const QString& ProgramDir() const { return programDir_; }
   const QString& DataDir() const { return dataDir_; }
+
+  // ==== Interface: the table's scale (interface/table_scale.cpp) =============================
+  // The table keeps its 1024 x 768 logical pixels; the window shows it at TableScale(),
+  // centred at TableGeometry() (window pixels), on black. F11 switches to full screen and back.
+  double TableScale() const { return scale_; }
+  // Every control of the table (not those of the display question, a window of its own).
+  std::vector<Control*> TableControls() const;
+  QRect TableGeometry() const;
+  // Scale times the screen's device pixel ratio: the pictures' pixels per logical pixel.
+  qreal PictureRatio() const;
+  // Waits until every picture shown is drawn for the scale in force (talvero-drive, tests).
+  void WaitForPictures();
+  // The coach's window, set to the table's scale when it opens and as the scale changes.
+  void ScaleCoachWindow();
 
   // ==== Interface: the controls =============================================================
   // Built in their places by interface/inventory.cpp, their pictures drawn by
@@ -658,6 +676,8 @@ class JeuPoker : public QWidget {
   const Variable* FindVariable(const QString& name) const;
 
  protected:
+  void resizeEvent(QResizeEvent* e) override;
+  bool event(QEvent* e) override;
   void closeEvent(QCloseEvent* e) override;
   void mouseReleaseEvent(QMouseEvent* e) override;
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -671,8 +691,18 @@ class JeuPoker : public QWidget {
   // Renders the stored pictures (card faces, digits, titles) into the picture stores
   // (interface/pictures.cpp).
   void BuildPictures();
-  Picture StorePicture(const QString& name, const QPixmap& pixmap);
-  Picture StorePicture(const QString& name, std::function<QPixmap()> draw);
+  // The table's scale: the controls, the web panels and the coach follow it, and the pictures
+  // are drawn again in the background (interface/table_scale.cpp).
+  void ApplyTableScale(double s);
+  void ScaleTableContents();
+  std::shared_ptr<pics::CardFaces> FacesFor(qreal ratio);
+  void ShowCardPointer(qreal ratio);
+  void RenderPictures();
+  void AdoptPictures();
+  void ToggleFullScreen();
+  // A painted picture, drawn by `render` at a ratio on any thread; a card face from the worker.
+  Picture StorePicture(const QString& name, std::function<QImage(qreal)> render);
+  Picture StoreCardPicture(const QString& name, int code, bool small);
 
   Control* Make(ControlKind kind, const QString& name, Control* parent, int left, int top, int width, int height,
                 int index = -1);
@@ -699,7 +729,17 @@ class JeuPoker : public QWidget {
   QHash<QString, TimerControl*> timers_;
   std::vector<std::unique_ptr<StoredPicture>> pictures_;
   std::shared_ptr<pics::CardFaces> cardFaces_;  // drawn on a worker, the faces after the first frame
-  bool firstFrameSeen_ = false;                 // the first frame has been seen
+  pics::CardFaces::Sizes faceSizes_;            // their sizes, at the ratio of the start
+  // The table on screen (interface/table_scale.cpp): the surface the controls stand on, its
+  // scale, and the pictures drawn again in the background after the scale changes.
+  QWidget* table_ = nullptr;
+  double scale_ = 1;
+  QTimer* renderDelay_ = nullptr;  // a resize settles before the pictures are drawn again
+  QTimer* renderPoll_ = nullptr;   // looks for the pictures drawn in the background
+  std::future<std::vector<QImage>> rendering_;
+  std::vector<const StoredPicture*> renderingPictures_;
+  qreal renderingRatio_ = 0;
+  bool firstFrameSeen_ = false;  // the first frame has been seen
   QHash<QString, Variable> variables_;
   coach::Table TableCoach() const;
   std::unique_ptr<coach::Coach> coach_;

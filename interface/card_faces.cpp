@@ -148,6 +148,11 @@ void CardFaces::WaitAll() {
   drawn_.wait(lock, [&] { return finished_ || stop_; });
 }
 
+bool CardFaces::Finished() {
+  const std::lock_guard lock(mutex_);
+  return finished_ || stop_;
+}
+
 QImage CardFace(QSvgRenderer& deck, int code, QSize size, qreal dpr) {
   QImage img = Canvas(size, dpr);
   QPainter p(&img);

@@ -55,6 +55,7 @@ class CardFaces {
   CardFaces(const CardFaces&) = delete;
   CardFaces& operator=(const CardFaces&) = delete;
 
+  const Sizes& sizes() const { return sizes_; }
   QPixmap Face(int code);
   QPixmap Small(int code);
   // The worker draws the back, then waits to be told to go on (the first frame is out, or a
@@ -62,6 +63,8 @@ class CardFaces {
   void Continue();
   // Waits until every face is drawn and the deck is released.
   void WaitAll();
+  // Whether every face is drawn (or the worker was stopped), without waiting.
+  bool Finished();
   // Stops the worker after the face it is drawing, and waits for it.
   void Stop();
   // Stops every worker of the process. Called before a program returns from main, so that no

@@ -14,6 +14,10 @@ QPixmap& CardPointerPixmap() {
   static QPixmap pixmap;
   return pixmap;
 }
+QPoint& CardPointerHotSpot() {
+  static QPoint at(4, 1);
+  return at;
+}
 bool timersAutomatic = true;
 
 int Px(int twips) { return static_cast<int>(std::lround(twips / static_cast<double>(kTwipsPerPixel))); }
@@ -77,12 +81,51 @@ void Control::SetVisible(bool v) {
   setVisible(v);
 }
 
-void Control::SetLeft(int twips) { move(Px(twips), y()); }
-void Control::SetTop(int twips) { move(x(), Px(twips)); }
-void Control::SetWidth(int twips) { resize(std::max(0, Px(twips)), height()); }
-void Control::SetHeight(int twips) { resize(width(), std::max(0, Px(twips))); }
+void Control::SetLeft(int twips) {
+  logical_.moveLeft(Px(twips));
+  ApplyGeometry();
+}
+void Control::SetTop(int twips) {
+  logical_.moveTop(Px(twips));
+  ApplyGeometry();
+}
+void Control::SetWidth(int twips) {
+  logical_.setWidth(std::max(0, Px(twips)));
+  ApplyGeometry();
+}
+void Control::SetHeight(int twips) {
+  logical_.setHeight(std::max(0, Px(twips)));
+  ApplyGeometry();
+}
 void Control::Move(int left, int top, int w, int h) {
-  setGeometry(Px(left), Px(top), std::max(0, Px(w)), std::max(0, Px(h)));
+  logical_ = QRect(Px(left), Px(top), std::max(0, Px(w)), std::max(0, Px(h)));
+  ApplyGeometry();
+}
+
+void Control::SetScale(double s) {
+  if (scale_ == s) return;
+  scale_ = s;
+  ApplyGeometry();
+  update();
+}
+
+void Control::ApplyGeometry() {
+  if (isWindow()) {
+    // A window of its own (the display question) is placed by its frame, and never scaled.
+    move(logical_.topLeft());
+    return resize(logical_.size());
+  }
+  if (scale_ == 1) return setGeometry(logical_);
+  // Each edge is scaled and rounded on its own, so that controls that touch still touch.
+  auto at = [this](int v) { return static_cast<int>(std::lround(v * scale_)); };
+  const int left = at(logical_.x()), top = at(logical_.y());
+  setGeometry(left, top, at(logical_.x() + logical_.width()) - left, at(logical_.y() + logical_.height()) - top);
+}
+
+QPoint Control::Logical(const QPointF& widgetPoint) const {
+  if (scale_ == 1 || width() <= 0 || height() <= 0) return widgetPoint.toPoint();
+  return QPoint(static_cast<int>(std::floor(widgetPoint.x() * logical_.width() / width())),
+                static_cast<int>(std::floor(widgetPoint.y() * logical_.height() / height())));
 }
 
 void Control::SetForeColor(Long bgr) {
@@ -108,7 +151,7 @@ void Control::ApplyCursor() {
     case kInterdit: setCursor(Qt::ForbiddenCursor); break;
     case kCarte:
       if (!CardPointerPixmap().isNull())
-        setCursor(QCursor(CardPointerPixmap(), 4, 1));
+        setCursor(QCursor(CardPointerPixmap(), CardPointerHotSpot().x(), CardPointerHotSpot().y()));
       else
         setCursor(Qt::PointingHandCursor);
       break;
@@ -117,7 +160,10 @@ void Control::ApplyCursor() {
   }
 }
 
-void Control::SetCardPointer(const QPixmap& pixmap) { CardPointerPixmap() = pixmap; }
+void Control::SetCardPointer(const QPixmap& pixmap, QPoint hotSpot) {
+  CardPointerPixmap() = pixmap;
+  CardPointerHotSpot() = hotSpot;
+}
 
 void Control::SetBevelWidth(int w) {
   if (bevelWidth_ == w) return;
@@ -151,7 +197,8 @@ void Control::SetTransparent(bool t) {
 
 void Control::SetLine(int x1, int y1, int x2, int y2) {
   const int l = std::min(x1, x2), t = std::min(y1, y2);
-  setGeometry(Px(l) - 1, Px(t) - 1, Px(std::abs(x2 - x1)) + 3, Px(std::abs(y2 - y1)) + 3);
+  logical_ = QRect(Px(l) - 1, Px(t) - 1, Px(std::abs(x2 - x1)) + 3, Px(std::abs(y2 - y1)) + 3);
+  ApplyGeometry();
   lineFrom_ = QPoint(Px(x1 - l) + 1, Px(y1 - t) + 1);
   lineTo_ = QPoint(Px(x2 - l) + 1, Px(y2 - t) + 1);
   update();
@@ -163,11 +210,10 @@ void Control::SetFocus() {
   setFocus(Qt::OtherFocusReason);
 }
 
-void Control::PaintBevel(QPainter& p, bool pressed) const {
+void Control::PaintBevel(QPainter& p, const QRect& r, bool pressed) const {
   const QColor base = VbColor(backColor_);
   const QColor light = base.lighter(160), dark = base.darker(220);
   const int depth = std::min(bevelWidth_, 8);
-  const QRect r = rect();
   for (int i = 0; i < depth; ++i) {
     p.setPen(pressed ? dark : light);
     p.drawLine(r.left() + i, r.top() + i, r.right() - i, r.top() + i);
@@ -178,11 +224,41 @@ void Control::PaintBevel(QPainter& p, bool pressed) const {
   }
 }
 
+// The picture in the logical rectangle `r`. Scaled, a picture drawn for the ratio in force
+// lands on whole device pixels, one of its pixels to one of the screen's.
+void Control::PaintPicture(QPainter& p, const QRect& r) const {
+  const QPixmap& pm = picture_->Pixmap(scale_ * devicePixelRatioF());
+  if (pm.isNull()) return;
+  const QSize ps = pm.deviceIndependentSize().toSize();
+  if (kind_ == ControlKind::Button && fitPicture_) {
+    const QSize fit = ps.scaled(r.size(), Qt::KeepAspectRatio);
+    QRect to(QPoint((r.width() - fit.width()) / 2, (r.height() - fit.height()) / 2), fit);
+    if (pressed_) to.translate(1, 1);
+    p.drawPixmap(to, pm);
+    return;
+  }
+  QPoint at(0, 0);
+  if (kind_ == ControlKind::Button) {
+    at = QPoint((r.width() - ps.width()) / 2, (r.height() - ps.height()) / 2);
+    if (pressed_) at += QPoint(1, 1);
+  }
+  if (scale_ == 1) return p.drawPixmap(at, pm);
+  const QPointF corner = p.transform().map(QPointF(at));
+  const QRectF to(QPointF(std::round(corner.x()), std::round(corner.y())), pm.deviceIndependentSize() * scale_);
+  p.save();
+  p.resetTransform();
+  p.drawPixmap(to, pm, QRectF(pm.rect()));
+  p.restore();
+}
+
 void Control::paintEvent(QPaintEvent*) {
   QPainter p(this);
   p.setRenderHint(QPainter::TextAntialiasing);
   p.setRenderHint(QPainter::SmoothPixmapTransform);
-  const QRect r = rect();
+  // Everything is drawn in logical pixels; scaled, the painter maps them onto the widget.
+  const QRect r(QPoint(0, 0), logical_.size());
+  if (scale_ != 1 && r.width() > 0 && r.height() > 0)
+    p.scale(width() / static_cast<qreal>(r.width()), height() / static_cast<qreal>(r.height()));
   if (kind_ == ControlKind::Line) {
     p.setRenderHint(QPainter::Antialiasing);
     p.setPen(QPen(VbColor(foreColor_), 2));
@@ -192,22 +268,7 @@ void Control::paintEvent(QPaintEvent*) {
   const bool pressedLook = kind_ == ControlKind::Button && (pressed_ || bevelWidth_ <= 1);
   if (!(kind_ == ControlKind::Label && transparent_) && kind_ != ControlKind::Image) p.fillRect(r, VbColor(backColor_));
 
-  if (picture_ && !picture_->Pixmap().isNull()) {
-    const QSize ps = picture_->Pixmap().deviceIndependentSize().toSize();
-    if (kind_ == ControlKind::Button && fitPicture_) {
-      const QSize fit = ps.scaled(r.size(), Qt::KeepAspectRatio);
-      QRect to(QPoint((r.width() - fit.width()) / 2, (r.height() - fit.height()) / 2), fit);
-      if (pressed_) to.translate(1, 1);
-      p.setRenderHint(QPainter::SmoothPixmapTransform);
-      p.drawPixmap(to, picture_->Pixmap());
-    } else if (kind_ == ControlKind::Button) {
-      QPoint at((r.width() - ps.width()) / 2, (r.height() - ps.height()) / 2);
-      if (pressed_) at += QPoint(1, 1);
-      p.drawPixmap(at, picture_->Pixmap());
-    } else {
-      p.drawPixmap(QPoint(0, 0), picture_->Pixmap());
-    }
-  }
+  if (picture_) PaintPicture(p, r);
 
   if (!caption_.isEmpty()) {
     p.setPen(VbColor(foreColor_));
@@ -226,7 +287,7 @@ void Control::paintEvent(QPaintEvent*) {
   }
 
   if (kind_ == ControlKind::Panel || kind_ == ControlKind::Button)
-    PaintBevel(p, pressedLook && kind_ == ControlKind::Button);
+    PaintBevel(p, r, pressedLook && kind_ == ControlKind::Button);
   if (kind_ == ControlKind::Button && hasFocus()) {
     // A thin focus mark inside the bevel, as buttons show the keyboard focus.
     QPen pen(VbColor(foreColor_));
@@ -247,7 +308,7 @@ void Control::mousePressEvent(QMouseEvent* e) {
     setFocus(Qt::MouseFocusReason);
     update();
   }
-  const QPoint pos = e->position().toPoint();
+  const QPoint pos = Logical(e->position());
   if (MouseDown)
     MouseDown(VbButton(e->button()), VbShift(e->modifiers()), pos.x() * kTwipsPerPixel, pos.y() * kTwipsPerPixel);
   e->accept();
@@ -257,16 +318,16 @@ void Control::mouseReleaseEvent(QMouseEvent* e) {
   const bool wasPressed = pressed_;
   pressed_ = false;
   if (wasPressed) update();
-  const QPoint pos = e->position().toPoint();
+  const QPoint pos = Logical(e->position());
   if (MouseUp)
     MouseUp(VbButton(e->button()), VbShift(e->modifiers()), pos.x() * kTwipsPerPixel, pos.y() * kTwipsPerPixel);
   // A click is a press and a release over the same control with the left button.
-  if (e->button() == Qt::LeftButton && rect().contains(pos) && Click) Click();
+  if (e->button() == Qt::LeftButton && rect().contains(e->position().toPoint()) && Click) Click();
   e->accept();
 }
 
 void Control::mouseMoveEvent(QMouseEvent* e) {
-  const QPoint pos = e->position().toPoint();
+  const QPoint pos = Logical(e->position());
   int button = 0;
   if (e->buttons() & Qt::LeftButton) button |= 1;
   if (e->buttons() & Qt::RightButton) button |= 2;

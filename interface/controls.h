@@ -5,9 +5,10 @@
 // are compared by identity), ForeColor/BackColor as 0xBBGGRR, MousePointer, BevelWidth,
 // Enabled and Alignment. Events are plain callbacks set by the form.
 //
-// Terms: a twip is 1/15 of a pixel; the widget keeps whole pixels, so a position read back
-// is a multiple of 15. Visible is the control's own flag, not whether an ancestor is shown.
-// BevelWidth is the depth of the drawn 3D edge, 0 or 1 for a pressed button. MousePointer
+// Terms: a twip is 1/15 of a logical pixel; the control keeps whole logical pixels, so a
+// position read back is a multiple of 15. The table is 1024 x 768 logical pixels; on screen it
+// is shown at a scale s, and a control's widget is its logical place times s. Visible is the control's own flag, not
+// whether an ancestor is shown. BevelWidth is the depth of the drawn 3D edge, 0 or 1 for a pressed button. MousePointer
 // is 0 (the default), 10 (up arrow: will work), 12 (no entry: will refuse) or 99 (the card
 // pointer). A control array has bounds like the game's arrays; an index outside them is
 // run-time error 9.
@@ -17,6 +18,7 @@
 #pragma once
 
 #include <QColor>
+#include <QImage>
 #include <QPixmap>
 #include <QString>
 #include <QTimer>
@@ -30,24 +32,49 @@
 constexpr int kTwipsPerPixel = 15;
 
 // A picture with identity. Controls hold a pointer to it; two controls show "the same
-// picture" exactly when they hold the same pointer. A picture may be drawn only when first
-// shown (the card faces come from a worker).
+// picture" exactly when they hold the same pointer. A picture is drawn for a ratio of device
+// pixels per logical pixel (the table's scale times the screen's pixel ratio), the first time
+// it is shown. When the ratio changes, the form draws it again in the background and gives it
+// the new pixmap; until then the last one is shown, scaled.
 class StoredPicture {
  public:
-  StoredPicture(QString name, QPixmap pixmap) : name(std::move(name)), pixmap_(std::move(pixmap)) {}
-  StoredPicture(QString name, std::function<QPixmap()> draw) : name(std::move(name)), draw_(std::move(draw)) {}
+  // `draw` makes the picture at a ratio on the GUI thread; `render`, when given, makes it as an
+  // image on any thread. `ratio` is the ratio Pixmap() draws at when nothing was drawn yet.
+  StoredPicture(QString name, qreal ratio, std::function<QPixmap(qreal)> draw, std::function<QImage(qreal)> render = {})
+      : name(std::move(name)), ratio_(ratio), draw_(std::move(draw)), render_(std::move(render)) {}
   const QString name;
-  const QPixmap& Pixmap() const {
-    if (draw_) {
-      pixmap_ = draw_();
-      draw_ = nullptr;
+  // The picture as last drawn, drawn now at the first ratio if it never was.
+  const QPixmap& Pixmap() const { return Pixmap(ratio_); }
+  // The picture for `ratio`: drawn now if it never was, otherwise the last one drawn, which is
+  // at another ratio while the new one renders.
+  const QPixmap& Pixmap(qreal ratio) const {
+    if (!drawn_) {
+      pixmap_ = draw_(ratio);
+      ratio_ = ratio;
+      drawn_ = true;
     }
     return pixmap_;
+  }
+  bool Drawn() const { return drawn_; }
+  qreal Ratio() const { return ratio_; }
+  // Drawing off the GUI thread, for the pictures that can.
+  bool Renders() const { return static_cast<bool>(render_); }
+  QImage Render(qreal ratio) const { return render_(ratio); }
+  // Draws the picture at `ratio` on the GUI thread (the card faces, once their worker has them).
+  QPixmap Draw(qreal ratio) const { return draw_(ratio); }
+  // The picture drawn at a new ratio replaces the last one.
+  void Adopt(qreal ratio, QPixmap pixmap) const {
+    pixmap_ = std::move(pixmap);
+    ratio_ = ratio;
+    drawn_ = true;
   }
 
  private:
   mutable QPixmap pixmap_;
-  mutable std::function<QPixmap()> draw_;
+  mutable qreal ratio_;
+  mutable bool drawn_ = false;
+  std::function<QPixmap(qreal)> draw_;
+  std::function<QImage(qreal)> render_;
 };
 using Picture = const StoredPicture*;
 
@@ -69,10 +96,17 @@ class Control : public QWidget {
   void SetCaption(const QString& text);
   bool Visible() const { return visible_; }
   void SetVisible(bool v);
-  int Left() const { return x() * kTwipsPerPixel; }
-  int Top() const { return y() * kTwipsPerPixel; }
-  int Width() const { return width() * kTwipsPerPixel; }
-  int Height() const { return height() * kTwipsPerPixel; }
+  int Left() const { return logical_.x() * kTwipsPerPixel; }
+  int Top() const { return logical_.y() * kTwipsPerPixel; }
+  int Width() const { return logical_.width() * kTwipsPerPixel; }
+  int Height() const { return logical_.height() * kTwipsPerPixel; }
+  // The place in logical pixels (a twip is a fifteenth of one), whatever the table's scale.
+  QRect LogicalGeometry() const { return logical_; }
+  QSize LogicalSize() const { return logical_.size(); }
+  // The table's scale: the control is shown `s` times its logical size. Positions, sizes and
+  // the coordinates of mouse events stay logical.
+  double Scale() const { return scale_; }
+  void SetScale(double s);
   void SetLeft(int twips);
   void SetTop(int twips);
   void SetWidth(int twips);
@@ -109,8 +143,10 @@ class Control : public QWidget {
   std::function<void(int keyCode, int shift)> KeyDown;
   std::function<void(int keyCode, int shift)> KeyUp;
 
-  // Pointer 99 shows this picture as the cursor.
-  static void SetCardPointer(const QPixmap& pixmap);
+  // Pointer 99 shows this picture as the cursor, its tip at `hotSpot` in its own pixels.
+  static void SetCardPointer(const QPixmap& pixmap, QPoint hotSpot);
+  // Shows the card pointer again, after it changed.
+  void RefreshCursor() { ApplyCursor(); }
 
  protected:
   void paintEvent(QPaintEvent*) override;
@@ -121,8 +157,13 @@ class Control : public QWidget {
   void keyReleaseEvent(QKeyEvent*) override;
 
  private:
-  void PaintBevel(QPainter& p, bool pressed) const;
+  void PaintBevel(QPainter& p, const QRect& r, bool pressed) const;
+  void PaintPicture(QPainter& p, const QRect& r) const;
   void ApplyCursor();
+  // Places the widget at the logical place times the scale.
+  void ApplyGeometry();
+  // A point of the widget in logical pixels.
+  QPoint Logical(const QPointF& widgetPoint) const;
 
   ControlKind kind_;
   QString name_;
@@ -139,6 +180,8 @@ class Control : public QWidget {
   bool fitPicture_ = false;
   bool pressed_ = false;
   QPoint lineFrom_, lineTo_;
+  QRect logical_;
+  double scale_ = 1;
 };
 
 // A timer control: Interval in ms, Enabled, and a Timer event.

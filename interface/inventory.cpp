@@ -16,7 +16,7 @@ const QString kMono = QStringLiteral("Liberation Mono");    // Courier's metric 
 
 Control* JeuPoker::Make(ControlKind kind, const QString& name, Control* parent, int left, int top, int width,
                         int height, int index) {
-  QWidget* p = parent ? static_cast<QWidget*>(parent) : static_cast<QWidget*>(this);
+  QWidget* p = parent ? static_cast<QWidget*>(parent) : table_;
   auto* c = new Control(kind, name, index, p);
   c->Move(left, top, width, height);
   if (kind == ControlKind::Button) {

@@ -16,8 +16,6 @@
 namespace pics {
 namespace {
 
-QPixmap Done(QImage&& img) { return QPixmap::fromImage(std::move(img)); }
-
 QFont PixelFont(const QString& family, qreal pixels, int weight = QFont::Bold) {
   QFont f(family);
   f.setPixelSize(std::max(1, static_cast<int>(std::lround(pixels))));
@@ -45,7 +43,7 @@ QPainterPath TextPath(const QString& text, const QFont& font, QPointF centre, qr
 
 }  // namespace
 
-QPixmap Digit(int digit, DigitColour colour, QSize size, qreal dpr) {
+QImage Digit(int digit, DigitColour colour, QSize size, qreal dpr) {
   // Seven segments: a top, b upper right, c lower right, d bottom, e lower left, f upper
   // left, g middle.
   static const std::array<const char*, 10> lit = {"abcdef", "bc",     "abdeg", "abcdg",   "bcfg",
@@ -115,10 +113,10 @@ QPixmap Digit(int digit, DigitColour colour, QSize size, qreal dpr) {
     p.drawPolygon(segments[static_cast<std::size_t>(s)]);
   }
   p.end();
-  return Done(std::move(img));
+  return img;
 }
 
-QPixmap PlayFace(const QString& word, bool pressed, QSize size, qreal dpr) {
+QImage PlayFace(const QString& word, bool pressed, QSize size, qreal dpr) {
   QImage img = Canvas(size, dpr);
   // The panel around the button shows in the corners.
   img.fill(QColor(0x70, 0x70, 0x70));
@@ -187,10 +185,10 @@ QPixmap PlayFace(const QString& word, bool pressed, QSize size, qreal dpr) {
   p.setBrush(pressed ? QColor(235, 225, 210) : QColor(255, 255, 255));
   p.drawPath(text);
   p.end();
-  return Done(std::move(img));
+  return img;
 }
 
-QPixmap RowTitle(const QString& text, QColor colour, QSize size, qreal dpr) {
+QImage RowTitle(const QString& text, QColor colour, QSize size, qreal dpr) {
   QImage img = Canvas(size, dpr);
   QPainter p(&img);
   Smooth(p);
@@ -202,11 +200,11 @@ QPixmap RowTitle(const QString& text, QColor colour, QSize size, qreal dpr) {
   p.setBrush(colour);
   p.drawPath(path);
   p.end();
-  return Done(std::move(img));
+  return img;
 }
 
-QPixmap RowBackground(QColor accent, int windowLeft, int windowRight, int windowTop, int windowBottom, QSize size,
-                      qreal dpr) {
+QImage RowBackground(QColor accent, int windowLeft, int windowRight, int windowTop, int windowBottom, QSize size,
+                     qreal dpr) {
   QImage img = Canvas(size, dpr);
   QPainter p(&img);
   Smooth(p);
@@ -237,10 +235,10 @@ QPixmap RowBackground(QColor accent, int windowLeft, int windowRight, int window
   p.setBrush(kDisplayWindow);
   p.drawRect(w);
   p.end();
-  return Done(std::move(img));
+  return img;
 }
 
-QPixmap GameTitle(int form, QSize size, qreal dpr) {
+QImage GameTitle(int form, QSize size, qreal dpr) {
   QImage img = Canvas(size, dpr);
   QPainter p(&img);
   Smooth(p);
@@ -270,7 +268,7 @@ QPixmap GameTitle(int form, QSize size, qreal dpr) {
   p.setBrush(g);
   p.drawPath(text);
   p.end();
-  return Done(std::move(img));
+  return img;
 }
 
 namespace {
@@ -316,7 +314,7 @@ QPainterPath HandPath() {
 }
 }  // namespace
 
-QPixmap MusicIcon(bool on, QSize size, qreal dpr) {
+QImage MusicIcon(bool on, QSize size, qreal dpr) {
   QImage img = Canvas(size, dpr);
   QPainter p(&img);
   Smooth(p);
@@ -339,10 +337,10 @@ QPixmap MusicIcon(bool on, QSize size, qreal dpr) {
     p.drawLine(QPointF(5, 34), QPointF(31, 4));
   }
   p.end();
-  return Done(std::move(img));
+  return img;
 }
 
-QPixmap AdviceIcon(QSize size, qreal dpr) {
+QImage AdviceIcon(QSize size, qreal dpr) {
   QImage img = Canvas(size, dpr);
   QPainter p(&img);
   Smooth(p);
@@ -380,10 +378,10 @@ QPixmap AdviceIcon(QSize size, qreal dpr) {
   p.setBrush(QColor(60, 60, 66));
   p.drawRoundedRect(QRectF(13.5, 28, 5, 2.5), 1, 1);
   p.end();
-  return Done(std::move(img));
+  return img;
 }
 
-QPixmap HandIcon(QSize size, qreal dpr) {
+QImage HandIcon(QSize size, qreal dpr) {
   QImage img = Canvas(size, dpr);
   QPainter p(&img);
   Smooth(p);
@@ -396,10 +394,10 @@ QPixmap HandIcon(QSize size, qreal dpr) {
   p.setBrush(g);
   p.drawPath(HandPath());
   p.end();
-  return Done(std::move(img));
+  return img;
 }
 
-QPixmap CardPointer(qreal dpr) {
+QImage CardPointer(qreal dpr) {
   const QSize size(24, 24);
   QImage img = Canvas(size, dpr);
   QPainter p(&img);
@@ -414,7 +412,7 @@ QPixmap CardPointer(qreal dpr) {
   p.drawLine(QPointF(11, 12.6), QPointF(11, 15));
   p.drawLine(QPointF(14.6, 13), QPointF(14.6, 15));
   p.end();
-  return Done(std::move(img));
+  return img;
 }
 
 namespace {
@@ -458,7 +456,7 @@ void MiniCard(QPainter& p, const QRectF& r, const QString& rank, int suit, bool 
 }
 }  // namespace
 
-QPixmap ClassicGameIcon(QSize size, qreal dpr) {
+QImage ClassicGameIcon(QSize size, qreal dpr) {
   QImage img = Canvas(size, dpr);
   QPainter p(&img);
   Smooth(p);
@@ -475,10 +473,10 @@ QPixmap ClassicGameIcon(QSize size, qreal dpr) {
     p.restore();
   }
   p.end();
-  return Done(std::move(img));
+  return img;
 }
 
-QPixmap GridGameIcon(QSize size, qreal dpr) {
+QImage GridGameIcon(QSize size, qreal dpr) {
   QImage img = Canvas(size, dpr);
   QPainter p(&img);
   Smooth(p);
@@ -497,10 +495,10 @@ QPixmap GridGameIcon(QSize size, qreal dpr) {
   p.drawLine(QPointF(left - 2, top + h / 2), QPointF(87 - left + 2, top + h / 2));
   p.drawLine(QPointF(left - 1, top - 1), QPointF(87 - left + 1, 87 - top + 1));
   p.end();
-  return Done(std::move(img));
+  return img;
 }
 
-QPixmap PowerIcon(QSize size, qreal dpr) {
+QImage PowerIcon(QSize size, qreal dpr) {
   QImage img = Canvas(size, dpr);
   QPainter p(&img);
   Smooth(p);
@@ -515,10 +513,10 @@ QPixmap PowerIcon(QSize size, qreal dpr) {
     p.drawLine(QPointF(12, 2.5), QPointF(12, 11.5));
   }
   p.end();
-  return Done(std::move(img));
+  return img;
 }
 
-QPixmap FlagIcon(bool english, QSize size, qreal dpr) {
+QImage FlagIcon(bool english, QSize size, qreal dpr) {
   QImage img = Canvas(size, dpr);
   QPainter p(&img);
   Smooth(p);
@@ -550,7 +548,7 @@ QPixmap FlagIcon(bool english, QSize size, qreal dpr) {
   p.setBrush(Qt::NoBrush);
   p.drawRoundedRect(r, 2, 2);
   p.end();
-  return Done(std::move(img));
+  return img;
 }
 
 }  // namespace pics

@@ -61,8 +61,8 @@ void JeuPoker::VérifieRésolution() {
 
   // The question, in the middle of the screen, until one of its buttons is pressed.
   if (auto* web = AfficheLogoWeb->findChild<WebPanel*>()) web->Navigate(QDir(dataDir_).filePath("logoalb200.htm"));
-  AfficheForm->move(std::max(0, (actuel.width - AfficheForm->width()) / 2),
-                    std::max(0, (actuel.height - AfficheForm->height()) / 2));
+  AfficheForm->SetLeft(std::max(0, (actuel.width - AfficheForm->LogicalSize().width()) / 2) * kTwipsPerPixel);
+  AfficheForm->SetTop(std::max(0, (actuel.height - AfficheForm->LogicalSize().height()) / 2) * kTwipsPerPixel);
   AfficheForm->SetVisible(true);
   while (AfficheForm->Visible() && !FinDemandée) Sys().DoEvents();
   if (FinDemandée) return;

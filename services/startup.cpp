@@ -4,6 +4,7 @@
 
 #include "core/table_facts.h"
 #include "interface/JeuPoker.h"
+#include "interface/table_scale.h"
 #include "services/platform.h"
 #include "services/startup_stages.h"
 #include "services/web.h"
@@ -22,8 +23,9 @@ void JeuPoker::Form_Load() {
   // program here.
   VérifieRésolution();
   if (FinDemandée) return;
-  // The form's size and the web panels' places.
-  resize(15360 / kTwipsPerPixel, 11520 / kTwipsPerPixel);
+  // The form's size (15360 x 11520 twips, shown at the table's scale) and the web panels'
+  // places.
+  resize(table::TableRect(QSize(), scale_).size());
   Pub0Pic->SetTop(8700);
   Pub1Pic->SetLeft(11940);
   // The web panels show the publisher's pages.
@@ -31,8 +33,8 @@ void JeuPoker::Form_Load() {
   if (auto* web = Pub1Web->findChild<WebPanel*>()) web->Navigate(AdresseWeb(QStringLiteral("pub1.htm")));
   StartupStage("web");
   // The no-connection notice is centred on the form.
-  NonConnectéPic->SetLeft((width() * kTwipsPerPixel - NonConnectéPic->Width()) / 2);
-  NonConnectéPic->SetTop((height() * kTwipsPerPixel - NonConnectéPic->Height()) / 2);
+  NonConnectéPic->SetLeft((table::kLogicalSize.width() * kTwipsPerPixel - NonConnectéPic->Width()) / 2);
+  NonConnectéPic->SetTop((table::kLogicalSize.height() * kTwipsPerPixel - NonConnectéPic->Height()) / 2);
 
   // From here on a failing statement is skipped and the next one runs.
   // Leftover card pictures are deleted from the start directory.

@@ -1,10 +1,14 @@
 // The web panels (Pub0Web, Pub1Web, LogoWeb) and the no-connection notice.
 #include "services/web.h"
 
+#include <QAbstractTextDocumentLayout>
 #include <QDir>
 #include <QEvent>
 #include <QFile>
 #include <QFileInfo>
+#include <QPainter>
+#include <QScrollBar>
+#include <QTextFrame>
 #include <QUrl>
 
 #include "interface/JeuPoker.h"
@@ -26,8 +30,35 @@ WebPanel::WebPanel(QWidget* host) : QTextBrowser(host) {
 }
 
 bool WebPanel::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == parent() && event->type() == QEvent::Resize) setGeometry(parentWidget()->rect());
+  if (watched == parent() && event->type() == QEvent::Resize) FollowHost();
   return QTextBrowser::eventFilter(watched, event);
+}
+
+void WebPanel::SetScale(double s) {
+  scale_ = s;
+  setLineWrapMode(s == 1 ? QTextEdit::WidgetWidth : QTextEdit::FixedPixelWidth);
+  FollowHost();
+}
+
+void WebPanel::FollowHost() {
+  setGeometry(parentWidget()->rect());
+  if (scale_ != 1) setLineWrapColumnOrWidth(static_cast<int>(viewport()->width() / scale_));
+  viewport()->update();
+}
+
+void WebPanel::paintEvent(QPaintEvent* event) {
+  if (scale_ == 1) return QTextBrowser::paintEvent(event);
+  // The page as laid out at the logical width, drawn larger: its text stays sharp.
+  QPainter p(viewport());
+  p.setRenderHint(QPainter::TextAntialiasing);
+  // The page's own background (the body's colour) fills the whole panel.
+  const QBrush ground = document()->rootFrame()->frameFormat().background();
+  p.fillRect(viewport()->rect(), ground.style() != Qt::NoBrush ? ground : palette().base());
+  p.scale(scale_, scale_);
+  p.translate(0, -verticalScrollBar()->value() / scale_);
+  QAbstractTextDocumentLayout::PaintContext context;
+  context.palette = palette();
+  document()->documentLayout()->draw(&p, context);
 }
 
 QString WebPanel::Notice() {

@@ -18,16 +18,23 @@ class WebPanel : public QTextBrowser {
   // The page's text as shown.
   QString Text() const { return toPlainText(); }
 
+  // The table's scale: the page is laid out at the panel's logical width and drawn that many
+  // times larger.
+  void SetScale(double s);
+
   // The notice shown when a page cannot be had.
   static QString Notice();
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
 
  private:
   void Show(const QByteArray& html);
 
   QString address_;
+  void FollowHost();
+  double scale_ = 1;
   QPointer<QObject> pending_;  // the fetch in progress
   int navigations_ = 0;        // a fetch's reply shows only if no navigation came after it
 };

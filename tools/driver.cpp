@@ -15,6 +15,7 @@
 
 #include "interface/JeuPoker.h"
 #include "interface/bind.h"
+#include "interface/table_scale.h"
 #include "services/platform.h"
 #include "services/web.h"
 
@@ -126,6 +127,11 @@ void Driver::Execute(const QString& rawLine) {
       {"net", &Driver::Net},
       {"wait", &Driver::Wait},
       {"coach", &Driver::Coach},
+      {"scale", &Driver::Scale},
+      {"window", &Driver::Window},
+      {"rects", &Driver::Rects},
+      {"resize", &Driver::Resize},
+      {"pixels", &Driver::Pixels},
   };
   const auto handler = commands.value(cmd);
   if (!handler) {
@@ -207,7 +213,62 @@ void Driver::Shot(const QString& name) {
   // The main form, or the display question while it waits alone at start.
   QWidget* shown =
       !form_.isVisible() && form_.AfficheForm->isVisible() ? static_cast<QWidget*>(form_.AfficheForm) : &form_;
+  // The pictures drawn for the scale in force, not those of a scale left a moment ago.
+  form_.WaitForPictures();
   if (!shown->grab().save(path, "PNG")) Error(QStringLiteral("%1 cannot be written").arg(name));
+}
+
+void Driver::Scale(const QString&) { out_(QStringLiteral("scale=") + table::ScaleText(form_.TableScale())); }
+
+void Driver::Window(const QString&) {
+  const QRect t = form_.TableGeometry();
+  out_(QStringLiteral("window=%1x%2 table=%3,%4,%5x%6 fullscreen=%7")
+           .arg(form_.width())
+           .arg(form_.height())
+           .arg(t.x())
+           .arg(t.y())
+           .arg(t.width())
+           .arg(t.height())
+           .arg(form_.isFullScreen() ? 1 : 0));
+}
+
+// Every control the player can see, with its rectangle in the window's pixels.
+void Driver::Rects(const QString&) {
+  QStringList lines;
+  for (Control* c : form_.TableControls()) {
+    if (!c->isVisibleTo(&form_) || !form_.isVisible()) continue;
+    const QRect r(c->mapTo(&form_, QPoint(0, 0)), c->size());
+    lines << QStringLiteral("rect %1=%2,%3,%4,%5")
+                 .arg(c->FullName())
+                 .arg(r.x())
+                 .arg(r.y())
+                 .arg(r.width())
+                 .arg(r.height());
+  }
+  lines.sort();
+  for (const QString& line : lines) out_(line);
+}
+
+void Driver::Resize(const QString& text) {
+  static const QRegularExpression re(QStringLiteral(R"(^(\d{1,5})\s+(\d{1,5})$)"));
+  const auto m = re.match(text);
+  if (!m.hasMatch()) return Refuse(QStringLiteral("resize takes a width and a height"));
+  form_.resize(m.captured(1).toInt(), m.captured(2).toInt());
+  QCoreApplication::processEvents();
+  form_.WaitForPictures();
+}
+
+// The size in pixels of the picture a control shows, as drawn for the scale in force.
+void Driver::Pixels(const QString& text) {
+  const Target t = ParseTarget(text, false);
+  if (!t.error.isEmpty()) return Error(t.error);
+  Control* c = t.ok ? form_.FindControl(t.name, t.index) : nullptr;
+  if (!c) return Error(QStringLiteral("no control %1").arg(text));
+  form_.WaitForPictures();
+  const QString head = TargetText(t) + QStringLiteral(".Pixels=");
+  if (!c->GetPicture()) return out_(head + QStringLiteral("none"));
+  const QPixmap& pm = c->GetPicture()->Pixmap(form_.PictureRatio());
+  out_(head + QStringLiteral("%1x%2").arg(pm.width()).arg(pm.height()));
 }
 
 // The command texts sent to the music player since the last `mci`.
@@ -318,8 +379,9 @@ void Driver::Get(const QString& text) {
   const QString head = TargetText(t) + "." + t.prop + "=";
   if (t.name == "JeuPoker" && t.index < 0) {
     if (t.prop == "Caption") return out_(head + form_.windowTitle());
-    if (t.prop == "Width") return out_(head + QString::number(form_.width() * kTwipsPerPixel));
-    if (t.prop == "Height") return out_(head + QString::number(form_.height() * kTwipsPerPixel));
+    // The table's logical size, whatever its scale on screen.
+    if (t.prop == "Width") return out_(head + QString::number(table::kLogicalSize.width() * kTwipsPerPixel));
+    if (t.prop == "Height") return out_(head + QString::number(table::kLogicalSize.height() * kTwipsPerPixel));
     if (t.prop == "Visible") return out_(head + varfmt::Format(form_.isVisible()));
     return Error(QStringLiteral("JeuPoker has no property %1").arg(t.prop));
   }

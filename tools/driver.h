@@ -68,6 +68,13 @@ class Driver {
   void Display(const QString& nothing);
   void Net(const QString& state);
   void Wait(const QString& milliseconds);
+  // The table on screen: its scale, the window and the table's place in it, the rectangles
+  // of the controls shown, a resize of the window, and the pixels of a control's picture.
+  void Scale(const QString& nothing);
+  void Window(const QString& nothing);
+  void Rects(const QString& nothing);
+  void Resize(const QString& widthAndHeight);
+  void Pixels(const QString& target);
   // Reads a variable, or sets it from `value`.
   void VarOrSet(const QString& target, bool set, const QString& value);
   // Prints the error of a command that refuses its words (see Execute).

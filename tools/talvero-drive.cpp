@@ -11,6 +11,7 @@
 
 #include "interface/JeuPoker.h"
 #include "interface/card_faces.h"
+#include "interface/table_scale.h"
 #include "services/platform.h"
 #include "tools/driver.h"
 
@@ -37,23 +38,39 @@ bool CopyDirectory(const QString& from, const QString& to) {
 }  // namespace
 
 int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  // Offscreen, unless --platform names another of Qt's platforms (xcb, under Xvfb).
+  QByteArray platformName = "offscreen";
+  for (int i = 1; i + 1 < argc; ++i)
+    if (std::string(argv[i]) == "--platform") platformName = argv[i + 1];
+  qputenv("QT_QPA_PLATFORM", platformName);
   QApplication app(argc, argv);
   TimerControl::SetAutomatic(false);
 
   QString dir;
   QString screen;
   bool coach = false;
+  double scale = 0;
   const QStringList args = QCoreApplication::arguments();
   for (int i = 1; i < args.size(); ++i) {
-    if (args[i] == "--dir" && i + 1 < args.size()) {
+    if (args[i] == "--scale" && i + 1 < args.size()) {
+      const auto s = table::ParseScale(args[++i]);
+      if (!s) {
+        std::fprintf(stderr, "talvero-drive: --scale takes a number from 1 to 4, like 1.5\n");
+        return 2;
+      }
+      scale = *s;
+    } else if (args[i] == "--platform" && i + 1 < args.size()) {
+      ++i;
+    } else if (args[i] == "--dir" && i + 1 < args.size()) {
       dir = args[++i];
     } else if (args[i] == "--screen" && i + 1 < args.size()) {
       screen = args[++i];
     } else if (args[i] == "--coach") {
       coach = true;
     } else {
-      std::fprintf(stderr, "usage: talvero-drive [--dir DIR] [--screen WxH] [--coach] < commands\n");
+      std::fprintf(stderr,
+                   "usage: talvero-drive [--dir DIR] [--screen WxH] [--coach] [--scale S] [--platform NAME]"
+                   " < commands\n");
       return 2;
     }
   }
@@ -92,7 +109,7 @@ int main(int argc, char** argv) {
     std::_Exit(3);
   });
 
-  JeuPoker form(QDir(dir).absolutePath());
+  JeuPoker form(QDir(dir).absolutePath(), QString(), scale);
   form.EndProgram = [] {
     if (screenGiven) Print(QStringLiteral("display=%1x%2").arg(platform.display.width).arg(platform.display.height));
     Print(QStringLiteral("ended"));

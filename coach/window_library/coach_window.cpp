@@ -136,10 +136,11 @@ class Window : public QWidget, public CoachWindow {
     axisY_->setRange(0, top_ * 1.05);
     chart->legend()->setAlignment(Qt::AlignBottom);
     for (QValueAxis* a : {axisX_, axisY_}) a->setTruncateLabels(false);
-    auto* view = new QChartView(chart, this);
-    view->setRenderHint(QPainter::Antialiasing);
-    view->setMinimumHeight(200);
-    layout->addWidget(view, 2);
+    chart_ = chart;
+    view_ = new QChartView(chart, this);
+    view_->setRenderHint(QPainter::Antialiasing);
+    view_->setMinimumHeight(200);
+    layout->addWidget(view_, 2);
 
     resize(480, 768);
     english_ = !record_->english;
@@ -164,6 +165,33 @@ class Window : public QWidget, public CoachWindow {
   }
   bool Shown() const override { return isVisible(); }
   QWidget* Widget() override { return this; }
+
+  // Everything in the window is sized from its font: the font follows the table's scale, and
+  // the few sizes given in pixels are scaled with it.
+  void SetScale(double s) override {
+    if (s == scale_) return;
+    scale_ = s;
+    QFont f = QApplication::font();
+    f.setPointSizeF(f.pointSizeF() * s);
+    setFont(f);
+    QFont big = f;
+    big.setBold(true);
+    big.setPointSizeF(f.pointSizeF() * 1.15);
+    heading_->setFont(big);
+    for (int r = 0; r < holds_->rowCount(); ++r)
+      for (int c = 0; c < holds_->columnCount(); ++c) {
+        QFont itemFont = f;
+        itemFont.setBold(holds_->item(r, c)->font().bold());
+        holds_->item(r, c)->setFont(itemFont);
+      }
+    holds_->verticalHeader()->setDefaultSectionSize(holds_->fontMetrics().height() + qRound(4 * s));
+    holds_->setMinimumHeight(qRound(120 * s));
+    mistakes_->setMaximumHeight(4 * mistakes_->fontMetrics().height() + qRound(8 * s));
+    view_->setMinimumHeight(qRound(200 * s));
+    chart_->legend()->setFont(f);
+    for (QValueAxis* a : {axisX_, axisY_}) a->setLabelsFont(f);
+    resize(qRound(480 * s), qRound(768 * s));
+  }
 
  protected:
   // F2 closes the window from the window too.
@@ -294,7 +322,7 @@ class Window : public QWidget, public CoachWindow {
       for (int c = 0; c < 3; ++c) {
         QTableWidgetItem* item = holds_->item(r, c);
         item->setText(texts[c]);
-        QFont f = item->font();
+        QFont f = holds_->font();
         f.setBold(mine);
         item->setFont(f);
         item->setBackground(best ? QColor(0xd8, 0xf0, 0xd0) : mine ? QColor(0xf8, 0xe0, 0xc0) : QColor(Qt::white));
@@ -400,6 +428,9 @@ class Window : public QWidget, public CoachWindow {
   QLineSeries* lost_;
   QValueAxis* axisX_;
   QValueAxis* axisY_;
+  QChart* chart_;
+  QChartView* view_;
+  double scale_ = 1;
 };
 
 }  // namespace

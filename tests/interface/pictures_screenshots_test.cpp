@@ -98,24 +98,24 @@ TEST(PicturesShots, StartScreenAndSheets) {
 
   // The small pictures drawn for a screen of density 4, to check their shapes.
   const qreal dense = 4;
-  const QPixmap icons[] = {pics::CardPointer(dense),
-                           pics::AdviceIcon(QSize(32, 32), dense),
-                           pics::HandIcon(QSize(32, 32), dense),
-                           pics::MusicIcon(true, QSize(36, 38), dense),
-                           pics::MusicIcon(false, QSize(36, 38), dense),
-                           pics::PowerIcon(QSize(24, 24), dense),
-                           pics::FlagIcon(true, QSize(26, 17), dense),
-                           pics::FlagIcon(false, QSize(26, 17), dense),
-                           pics::Digit(8, pics::DigitColour::Blue, QSize(16, 22), dense),
-                           pics::GameTitle(2, QSize(165, 24), dense)};
+  const QImage icons[] = {pics::CardPointer(dense),
+                          pics::AdviceIcon(QSize(32, 32), dense),
+                          pics::HandIcon(QSize(32, 32), dense),
+                          pics::MusicIcon(true, QSize(36, 38), dense),
+                          pics::MusicIcon(false, QSize(36, 38), dense),
+                          pics::PowerIcon(QSize(24, 24), dense),
+                          pics::FlagIcon(true, QSize(26, 17), dense),
+                          pics::FlagIcon(false, QSize(26, 17), dense),
+                          pics::Digit(8, pics::DigitColour::Blue, QSize(16, 22), dense),
+                          pics::GameTitle(2, QSize(165, 24), dense)};
   QImage sheet(QSize(1400, 200), QImage::Format_ARGB32);
   sheet.fill(QColor(128, 128, 128));
   QPainter s(&sheet);
   int x = 4;
-  for (const QPixmap& pm : icons) {
-    QPixmap raw = pm;
+  for (const QImage& pm : icons) {
+    QImage raw = pm;
     raw.setDevicePixelRatio(1);
-    s.drawPixmap(x, 4, raw);
+    s.drawImage(x, 4, raw);
     x += raw.width() + 8;
   }
   s.end();
