@@ -132,6 +132,7 @@ void Driver::Execute(const QString& rawLine) {
       {"rects", &Driver::Rects},
       {"resize", &Driver::Resize},
       {"pixels", &Driver::Pixels},
+      {"at", &Driver::At},
   };
   const auto handler = commands.value(cmd);
   if (!handler) {
@@ -256,6 +257,24 @@ void Driver::Resize(const QString& text) {
   form_.resize(m.captured(1).toInt(), m.captured(2).toInt());
   QCoreApplication::processEvents();
   form_.WaitForPictures();
+}
+
+// The control a pointer at a point of the window reaches: the one the window system gives
+// the mouse to there.
+void Driver::At(const QString& text) {
+  static const QRegularExpression re(QStringLiteral(R"(^(-?\d{1,5})\s+(-?\d{1,5})$)"));
+  const auto m = re.match(text);
+  if (!m.hasMatch()) return Refuse(QStringLiteral("at takes x and y in the window's pixels"));
+  const QPoint point(m.captured(1).toInt(), m.captured(2).toInt());
+  QHash<const QWidget*, Control*> controls;
+  for (Control* c : form_.TableControls()) controls.insert(c, c);
+  QString name = QStringLiteral("none");
+  for (QWidget* w = form_.childAt(point); w; w = w->parentWidget())
+    if (Control* c = controls.value(w)) {
+      name = c->FullName();
+      break;
+    }
+  out_(QStringLiteral("at %1,%2=%3").arg(point.x()).arg(point.y()).arg(name));
 }
 
 // The size in pixels of the picture a control shows, as drawn for the scale in force.

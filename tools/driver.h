@@ -75,6 +75,7 @@ class Driver {
   void Rects(const QString& nothing);
   void Resize(const QString& widthAndHeight);
   void Pixels(const QString& target);
+  void At(const QString& point);
   // Reads a variable, or sets it from `value`.
   void VarOrSet(const QString& target, bool set, const QString& value);
   // Prints the error of a command that refuses its words (see Execute).

@@ -274,7 +274,10 @@ TEST(Inventory, PlacesAndParentsInTwips) {
     Control* c = h.form->FindControl(p.name, p.index);
     ASSERT_NE(c, nullptr) << p.name;
     auto* pc = dynamic_cast<Control*>(c->parentWidget());
-    const QString parent = pc ? pc->Name() : c->parentWidget()->objectName();
+    // The controls placed on the form stand on its table, the surface shown at the table's scale.
+    const bool onForm = c->parentWidget() && c->parentWidget()->parentWidget() == h.form.get() &&
+                        c->parentWidget()->objectName() == QStringLiteral("Table");
+    const QString parent = pc ? pc->Name() : onForm ? QStringLiteral("JeuPoker") : c->parentWidget()->objectName();
     EXPECT_EQ(parent, QString(p.parent)) << p.name << " " << p.index;
     EXPECT_EQ(c->Left(), Kept(p.left)) << p.name << " " << p.index;
     EXPECT_EQ(c->Top(), Kept(p.top)) << p.name << " " << p.index;
@@ -283,12 +286,17 @@ TEST(Inventory, PlacesAndParentsInTwips) {
   }
 }
 
-TEST(Inventory, WindowIsFixedAt1024By768AndCaptioned) {
+TEST(Inventory, WindowIs1024By768AtScaleOneAndCaptioned) {
   Harness h;
   EXPECT_EQ(h.form->windowTitle(), "MONTALBERGUES");
+  EXPECT_EQ(h.form->TableScale(), 1.0);
   EXPECT_EQ(h.form->width(), 1024);
   EXPECT_EQ(h.form->height(), 768);
-  EXPECT_EQ(h.form->minimumSize(), h.form->maximumSize());
+  // The player may enlarge the window, never shrink it below the table.
+  EXPECT_EQ(h.form->minimumSize(), QSize(1024, 768));
+  EXPECT_GT(h.form->maximumWidth(), 1024);
+  EXPECT_EQ(h.Drive1("get JeuPoker.Width"), "JeuPoker.Width=15360");
+  EXPECT_EQ(h.Drive1("get JeuPoker.Height"), "JeuPoker.Height=11520");
   EXPECT_EQ(h.Drive1("get JeuPoker.Caption"), "JeuPoker.Caption=MONTALBERGUES");
   EXPECT_EQ(h.Drive1("get Pub0Pic.Top"), "Pub0Pic.Top=8700");
   EXPECT_EQ(h.Drive1("get Pub1Pic.Left"), "Pub1Pic.Left=11940");

@@ -27,8 +27,9 @@ void WriteIni(Harness& h, char byte) {
   f.write(&byte, 1);
 }
 
-ToolRun RunTool(const QStringList& commands, const QStringList& args) {
+ToolRun RunTool(const QStringList& commands, const QStringList& args, const QProcessEnvironment& env) {
   QProcess p;
+  if (!env.isEmpty()) p.setProcessEnvironment(env);
   p.start(QStringLiteral(TALVERO_DRIVE), args);
   EXPECT_TRUE(p.waitForStarted(10000));
   p.write((commands.join('\n') + '\n').toUtf8());

@@ -2,6 +2,7 @@
 // force, a face-down card, a settings file, and the real talvero-drive run as a process.
 #pragma once
 
+#include <QProcessEnvironment>
 #include <QStringList>
 #include <string>
 
@@ -24,6 +25,8 @@ struct ToolRun {
   QStringList lines;
   int exitCode = -1;
 };
-ToolRun RunTool(const QStringList& commands, const QStringList& args = {});
+// `env`, when given, is the tool's whole environment.
+ToolRun RunTool(const QStringList& commands, const QStringList& args = {},
+                const QProcessEnvironment& env = QProcessEnvironment());
 // The same for a run that must end normally: the lines it printed.
 QStringList RunToolLines(const QStringList& commands);
