@@ -189,7 +189,11 @@ class Window : public QWidget, public CoachWindow {
     mistakes_->setMaximumHeight(4 * mistakes_->fontMetrics().height() + qRound(8 * s));
     view_->setMinimumHeight(qRound(200 * s));
     chart_->legend()->setFont(f);
-    for (QValueAxis* a : {axisX_, axisY_}) a->setLabelsFont(f);
+    holds_->horizontalHeader()->setFont(f);
+    for (QValueAxis* a : {axisX_, axisY_}) {
+      a->setLabelsFont(f);
+      a->setTitleFont(f);
+    }
     resize(qRound(480 * s), qRound(768 * s));
   }
 
