@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFile>
 #include <QHash>
@@ -254,8 +255,13 @@ void Driver::Resize(const QString& text) {
   static const QRegularExpression re(QStringLiteral(R"(^(\d{1,5})\s+(\d{1,5})$)"));
   const auto m = re.match(text);
   if (!m.hasMatch()) return Refuse(QStringLiteral("resize takes a width and a height"));
-  form_.resize(m.captured(1).toInt(), m.captured(2).toInt());
-  QCoreApplication::processEvents();
+  const QSize size(m.captured(1).toInt(), m.captured(2).toInt());
+  form_.resize(size);
+  // A real window system answers the resize a moment later: wait for it, two seconds at most.
+  QElapsedTimer waited;
+  waited.start();
+  do QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+  while (form_.size() != size && waited.elapsed() < 2000);
   form_.WaitForPictures();
 }
 
