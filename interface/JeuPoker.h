@@ -104,8 +104,6 @@ class JeuPoker : public QWidget {
   qreal PictureRatio() const;
   // Waits until every picture shown is drawn for the scale in force (talvero-drive, tests).
   void WaitForPictures();
-  // The coach's window, set to the table's scale when it opens and as the scale changes.
-  void ScaleCoachWindow();
 
   // ==== Interface: the controls =============================================================
   // Built in their places by interface/inventory.cpp, their pictures drawn by
@@ -695,6 +693,9 @@ class JeuPoker : public QWidget {
   // are drawn again in the background (interface/table_scale.cpp).
   void ApplyTableScale(double s);
   void ScaleTableContents();
+  // The coach's window, set to the table's scale when it opens and as the scale changes
+  // (coach/link.cpp).
+  void ScaleCoachWindow();
   std::shared_ptr<pics::CardFaces> FacesFor(qreal ratio);
   void ShowCardPointer(qreal ratio);
   void RenderPictures();

@@ -50,6 +50,14 @@ Target ParseTarget(const QString& text, bool withProperty) {
   return t;
 }
 
+// "X Y": two whole numbers of up to five digits, the first written into `out`.
+bool TwoNumbers(const QString& text, QPoint& out) {
+  static const QRegularExpression re(QStringLiteral(R"(^(-?\d{1,5})\s+(-?\d{1,5})$)"));
+  const auto m = re.match(text);
+  if (m.hasMatch()) out = QPoint(m.captured(1).toInt(), m.captured(2).toInt());
+  return m.hasMatch();
+}
+
 QString TargetText(const Target& t) { return t.index < 0 ? t.name : QStringLiteral("%1(%2)").arg(t.name).arg(t.index); }
 
 // Key codes of the game to Qt keys: 32 Space, 96..105 the keypad digits.
@@ -236,9 +244,10 @@ void Driver::Window(const QString&) {
 
 // Every control the player can see, with its rectangle in the window's pixels.
 void Driver::Rects(const QString&) {
+  if (!form_.isVisible()) return;
   QStringList lines;
   for (Control* c : form_.TableControls()) {
-    if (!c->isVisibleTo(&form_) || !form_.isVisible()) continue;
+    if (!c->isVisibleTo(&form_)) continue;
     const QRect r(c->mapTo(&form_, QPoint(0, 0)), c->size());
     lines << QStringLiteral("rect %1=%2,%3,%4,%5")
                  .arg(c->FullName())
@@ -252,10 +261,10 @@ void Driver::Rects(const QString&) {
 }
 
 void Driver::Resize(const QString& text) {
-  static const QRegularExpression re(QStringLiteral(R"(^(\d{1,5})\s+(\d{1,5})$)"));
-  const auto m = re.match(text);
-  if (!m.hasMatch()) return Refuse(QStringLiteral("resize takes a width and a height"));
-  const QSize size(m.captured(1).toInt(), m.captured(2).toInt());
+  QPoint numbers;
+  if (!TwoNumbers(text, numbers) || numbers.x() < 0 || numbers.y() < 0)
+    return Refuse(QStringLiteral("resize takes a width and a height"));
+  const QSize size(numbers.x(), numbers.y());
   form_.resize(size);
   // A real window system answers the resize a moment later: wait for it, two seconds at most.
   QElapsedTimer waited;
@@ -268,10 +277,8 @@ void Driver::Resize(const QString& text) {
 // The control a pointer at a point of the window reaches: the one the window system gives
 // the mouse to there.
 void Driver::At(const QString& text) {
-  static const QRegularExpression re(QStringLiteral(R"(^(-?\d{1,5})\s+(-?\d{1,5})$)"));
-  const auto m = re.match(text);
-  if (!m.hasMatch()) return Refuse(QStringLiteral("at takes x and y in the window's pixels"));
-  const QPoint point(m.captured(1).toInt(), m.captured(2).toInt());
+  QPoint point;
+  if (!TwoNumbers(text, point)) return Refuse(QStringLiteral("at takes x and y in the window's pixels"));
   QHash<const QWidget*, Control*> controls;
   for (Control* c : form_.TableControls()) controls.insert(c, c);
   QString name = QStringLiteral("none");
