@@ -22,6 +22,8 @@
 
 namespace scale {
 
+inline const QString kNoSessionBus = QStringLiteral("unix:path=/nonexistent/talvero-no-session-bus");
+
 // Xvfb with one screen of `size`, started on a free display; stopped when this goes.
 class VirtualScreen {
  public:
@@ -51,6 +53,10 @@ class VirtualScreen {
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
     env.insert(QStringLiteral("DISPLAY"), display_);
     env.remove(QStringLiteral("QT_SCALE_FACTOR"));
+    // A bus that is not there: without an address, Qt's accessibility bridge has libdbus fork a
+    // child to start a session bus, and a child forked from a program under the sanitizers
+    // can hang on a lock another thread held, keeping the program waiting.
+    env.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), kNoSessionBus);
     args << QStringLiteral("--platform") << QStringLiteral("xcb");
     return RunTool(commands, args, env);
   }

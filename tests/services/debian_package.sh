@@ -89,8 +89,9 @@ run() {
   local exe=$1 home=$2
   shift 2
   mkdir -p "$work/cwd"
+  # No session bus: otherwise Qt's accessibility bridge has libdbus fork a child to start one.
   (cd "$work/cwd" && env -u XDG_DATA_HOME HOME="$home" TALVERO_NO_AUDIO=1 TALVERO_FIRST_FRAME_REPORT=1 \
-    QT_QPA_PLATFORM=xcb "$@" timeout 60 "$exe" ${game_args:-} >"$work/out" 2>"$work/err") &
+    DBUS_SESSION_BUS_ADDRESS=unix:path=/nonexistent/talvero-no-session-bus QT_QPA_PLATFORM=xcb "$@" timeout 60 "$exe" ${game_args:-} >"$work/out" 2>"$work/err") &
   game=$!
   local status=0
   wait "$game" || status=$?
