@@ -170,6 +170,8 @@ class Window : public QWidget, public CoachWindow {
   // the few sizes given in pixels are scaled with it.
   void SetScale(double s) override {
     if (s == scale_) return;
+    // The window keeps the size the player gave it, in the table's units.
+    const double change = s / scale_;
     scale_ = s;
     QFont f = QApplication::font();
     f.setPointSizeF(f.pointSizeF() * s);
@@ -194,7 +196,7 @@ class Window : public QWidget, public CoachWindow {
       a->setLabelsFont(f);
       a->setTitleFont(f);
     }
-    resize(qRound(480 * s), qRound(768 * s));
+    if (!isMaximized() && !isFullScreen()) resize(qRound(width() * change), qRound(height() * change));
   }
 
  protected:

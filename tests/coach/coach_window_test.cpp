@@ -8,6 +8,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QRegularExpression>
+#include <QResizeEvent>
 #include <QTableWidget>
 #include <QTemporaryDir>
 
@@ -121,6 +122,28 @@ TEST(CoachWindow, FinEndsTheProgramWithTheCoachOpen) {
   const ToolRun r = RunTool({"get Coach.Visible", "click Fin", "var Capital"}, {"--coach"});
   EXPECT_EQ(r.lines, (QStringList{"Coach.Visible=-1", "ended"}));
   EXPECT_EQ(r.exitCode, 0);
+}
+
+TEST(CoachWindow, KeepsThePlayersSizeWhenTheTableScales) {
+  Harness h;
+  Quiet(h, "key 113");
+  QWidget* w = h.form->FenêtreCoach();
+  ASSERT_NE(w, nullptr);
+  EXPECT_EQ(w->size(), QSize(480, 768));
+  w->resize(720, 900);
+  auto resizeTable = [&](QSize size) {
+    const QSize old = h.form->size();
+    h.form->resize(size);
+    QResizeEvent resized(size, old);
+    QApplication::sendEvent(h.form.get(), &resized);
+  };
+  resizeTable(QSize(2048, 1536));
+  EXPECT_EQ(h.form->TableScale(), 2);
+  EXPECT_EQ(w->size(), QSize(1440, 1800));
+  resizeTable(QSize(1536, 1152));
+  EXPECT_EQ(w->size(), QSize(1080, 1350));
+  resizeTable(QSize(1024, 768));
+  EXPECT_EQ(w->size(), QSize(720, 900));
 }
 
 TEST(CoachDrive, PrintsIdleAHoldLineAndTheSession) {
