@@ -10,6 +10,7 @@
 #include <QScrollBar>
 #include <QTextFrame>
 #include <QUrl>
+#include <cmath>
 
 #include "interface/JeuPoker.h"
 #include "services/network.h"
@@ -36,13 +37,19 @@ bool WebPanel::eventFilter(QObject* watched, QEvent* event) {
 
 void WebPanel::SetScale(double s) {
   scale_ = s;
-  setLineWrapMode(s == 1 ? QTextEdit::WidgetWidth : QTextEdit::FixedPixelWidth);
+  // The width first, so that the page is laid out once, at that width.
   FollowHost();
+  setLineWrapMode(s == 1 ? QTextEdit::WidgetWidth : QTextEdit::FixedPixelWidth);
 }
 
 void WebPanel::FollowHost() {
   setGeometry(parentWidget()->rect());
-  if (scale_ != 1) setLineWrapColumnOrWidth(static_cast<int>(viewport()->width() / scale_));
+  if (scale_ != 1) {
+    // The page's width at scale 1: the panel's logical width, less the scroll bar when shown.
+    const QScrollBar* bar = verticalScrollBar();
+    const int barWidth = bar->isVisibleTo(this) ? bar->sizeHint().width() : 0;
+    setLineWrapColumnOrWidth(static_cast<int>(std::lround(width() / scale_)) - barWidth);
+  }
   viewport()->update();
 }
 

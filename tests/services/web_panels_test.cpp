@@ -1,6 +1,8 @@
 // The web panels: the shipped pages without a publisher, the publisher's pages from a
 // loopback server when TALVERO_PUBLISHER names it, a short notice when the server does not
 // answer, and the no-connection notice that only the player closes.
+#include <QApplication>
+#include <QResizeEvent>
 #include <QTcpServer>
 #include <QTcpSocket>
 
@@ -114,6 +116,41 @@ TEST(WebPanels, TheNoticeComesWithoutAConnectionAndStaysUntilClosed) {
   h.Drive({"net off", "tick NonConnectéTimer"});
   EXPECT_TRUE(f.NonConnectéPic->Visible());
   EXPECT_TRUE(f.NonConnectéTimer->Enabled());
+}
+
+// At any scale a page is laid out at the width it has at scale 1, so its lines break at the
+// same words, and it is drawn larger.
+TEST(WebPanels, AtAnyScaleAPageWrapsAtItsWidthOfScaleOne) {
+  qunsetenv("TALVERO_PUBLISHER");
+  Harness h;
+  JeuPoker& f = *h.form;
+  const std::vector<Control*> hosts = {f.Pub0Web, f.Pub1Web, f.LogoWeb};
+  std::vector<int> widths;
+  std::vector<QSizeF> pages;
+  for (Control* c : hosts) {
+    widths.push_back(c->LogicalSize().width());
+    pages.push_back(Web(c).document()->size());
+    // At scale 1 a page shown fills its panel's width, with no scroll bar.
+    if (Web(c).isVisibleTo(&f)) {
+      EXPECT_EQ(Web(c).viewport()->width(), widths.back());
+    }
+  }
+  for (const QSize size : {QSize(2000, 1000), QSize(1536, 1152), QSize(1333, 1000), QSize(1100, 1500)}) {
+    const QSize old = f.size();
+    f.resize(size);
+    QResizeEvent resized(size, old);
+    QApplication::sendEvent(&f, &resized);
+    ASSERT_GT(f.TableScale(), 1) << size.width();
+    for (std::size_t i = 0; i < hosts.size(); ++i) {
+      EXPECT_EQ(Web(hosts[i]).lineWrapMode(), QTextEdit::FixedPixelWidth);
+      EXPECT_EQ(Web(hosts[i]).lineWrapColumnOrWidth(), widths[i])
+          << hosts[i]->FullName().toStdString() << " at " << f.TableScale();
+      // The same lines, so the same page size in logical units.
+      if (Web(hosts[i]).isVisibleTo(&f)) {
+        EXPECT_EQ(Web(hosts[i]).document()->size(), pages[i]) << hosts[i]->FullName().toStdString();
+      }
+    }
+  }
 }
 
 }  // namespace
