@@ -27,7 +27,7 @@ JeuPoker::JeuPoker(const QString& programDir, const QString& dataDir, double sca
   scale_ = scale > 0 ? scale : screen ? table::FitScale(screen->availableGeometry().size()) : 1.0;
   table_ = new QWidget(this);
   table_->setObjectName(QStringLiteral("Table"));
-  resize(table::TableRect(QSize(), scale_).size());
+  resize(table::TableSize(scale_));
   table_->setGeometry(table::TableRect(size(), scale_));
   // The card faces take longest: they render on a worker while the controls are built.
   faceSizes_ = {QSize(88, 133), 55, QSize(65, 87), 54, PictureRatio()};

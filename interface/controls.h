@@ -10,10 +10,11 @@
 // is shown at a scale s, and a control's widget is its logical place times s. Visible is the
 // control's own flag, not whether an ancestor is shown. BevelWidth is the depth of the drawn
 // 3D edge, 0 or 1 for a pressed button. MousePointer is 0 (the default), 10 (up arrow: will
-// work), 12 (no entry: will refuse) or 99 (the card pointer). A control array has bounds like the game's arrays; an
-// index outside them is run-time error 9. Cache: a StoredPicture is drawn the first time it is shown and kept until the
-// scale changes. Threads: controls live on the GUI thread and are only touched there; a picture drawn by a worker (the
-// card faces) reaches them through its draw function, called on that thread.
+// work), 12 (no entry: will refuse) or 99 (the card pointer). A control array has bounds like
+// the game's arrays; an index outside them is run-time error 9.
+// Cache: a StoredPicture is drawn the first time it is shown and kept until the scale changes.
+// Threads: controls live on the GUI thread and are only touched there; a picture drawn by a
+// worker (the card faces) reaches them through its draw function, called on that thread.
 #pragma once
 
 #include <QColor>

@@ -54,10 +54,14 @@ double RequestedScale(const QStringList& arguments) {
   return 0;
 }
 
+QSize TableSize(double s) {
+  return QSize(static_cast<int>(std::lround(kLogicalSize.width() * s)),
+               static_cast<int>(std::lround(kLogicalSize.height() * s)));
+}
+
 QRect TableRect(QSize window, double s) {
-  const int width = static_cast<int>(std::lround(kLogicalSize.width() * s));
-  const int height = static_cast<int>(std::lround(kLogicalSize.height() * s));
-  return QRect((window.width() - width) / 2, (window.height() - height) / 2, width, height);
+  const QSize size = TableSize(s);
+  return QRect(QPoint((window.width() - size.width()) / 2, (window.height() - size.height()) / 2), size);
 }
 
 QString ScaleText(double s) {

@@ -27,6 +27,8 @@ std::optional<double> ParseScale(const QString& text);
 // The scale asked for by `--scale S` among the arguments, or else by TALVERO_SCALE; 0 when
 // none is. A value that is not a scale is said on the standard error and ignored.
 double RequestedScale(const QStringList& arguments);
+// The table's size in pixels at scale `s`, rounded.
+QSize TableSize(double s);
 // The table's rectangle in a window of `window` pixels at scale `s`: centred, its edges
 // rounded.
 QRect TableRect(QSize window, double s);

@@ -25,7 +25,7 @@ void JeuPoker::Form_Load() {
   if (FinDemandée) return;
   // The form's size (15360 x 11520 twips, shown at the table's scale) and the web panels'
   // places.
-  resize(table::TableRect(QSize(), scale_).size());
+  resize(table::TableSize(scale_));
   Pub0Pic->SetTop(8700);
   Pub1Pic->SetLeft(11940);
   // The web panels show the publisher's pages.
